@@ -1,0 +1,310 @@
+#include "frame/JanelaDesenho.h"
+
+#include "frame/ControloImagem.h"
+#include "frame/Plataforma.h"
+#include "interp/LerValor.h"
+#include "interp/clsEquation.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+
+#include <cmath>
+
+namespace lumerina {
+
+namespace {
+constexpr int kFolga = 4;          // gap between the picture and its scroll bars
+constexpr int kEspessuraBarra = 17;
+constexpr int kMinimoBarra = 20;   // smallest picture side the bars allow, in pixels
+
+const QString kFiltroBmp = QStringLiteral("Mapa de bits (*.bmp)|*.bmp");
+}  // namespace
+
+double AvaliarLimite(const QString& texto)
+{
+    clsEquation equacao;
+    equacao.Expression(texto.toStdString());
+    equacao.SetVariable("x", 0);
+    equacao.Evaluate();
+    return equacao.Value();
+}
+
+QString TextoLimite(double valor, int casas)
+{
+    const double escala = std::pow(10.0, casas);
+    double r = std::nearbyint(valor * escala) / escala;
+    if (!std::isfinite(r))
+        r = valor;
+    if (r == 0)
+        r = 0;  // no "-0"
+    QString texto = QString::number(r, 'f', casas);
+    if (texto.contains('.')) {
+        while (texto.endsWith('0'))
+            texto.chop(1);
+        if (texto.endsWith('.'))
+            texto.chop(1);
+    }
+    return texto;
+}
+
+JanelaDesenho::JanelaDesenho(QWidget* pagina, QWidget* area, QPoint origem, Opcoes opcoes)
+    : QObject(area), pagina_(pagina), origem_(origem)
+{
+    imagem_ = new ControloImagem(area, opcoes.largura, opcoes.altura);
+    imagem_->setObjectName(QStringLiteral("Picture1"));
+    imagem_->move(origem);
+    connect(imagem_, &ControloImagem::RatoPremido, this, &JanelaDesenho::RatoPremido);
+    connect(imagem_, &ControloImagem::RatoMovido, this, &JanelaDesenho::RatoMovido);
+    connect(imagem_, &ControloImagem::RatoLargado, this, &JanelaDesenho::RatoLargado);
+
+    if (opcoes.barras) {
+        // The bars' values are the picture's inner width and height in pixels.
+        hscroll_ = new QScrollBar(Qt::Horizontal, area);
+        hscroll_->setObjectName(QStringLiteral("HScroll1"));
+        hscroll_->setRange(kMinimoBarra, opcoes.largura);
+        hscroll_->setSingleStep(1);
+        hscroll_->setPageStep(10);
+        hscroll_->setValue(opcoes.largura);
+        vscroll_ = new QScrollBar(Qt::Vertical, area);
+        vscroll_->setObjectName(QStringLiteral("VScroll1"));
+        vscroll_->setRange(kMinimoBarra, opcoes.altura);
+        vscroll_->setSingleStep(1);
+        vscroll_->setPageStep(10);
+        vscroll_->setValue(opcoes.altura);
+        const QSize total = imagem_->size();
+        hscroll_->setGeometry(origem.x(), origem.y() + total.height() + kFolga, opcoes.largura,
+                              kEspessuraBarra);
+        vscroll_->setGeometry(origem.x() + total.width() + kFolga, origem.y(), kEspessuraBarra,
+                              opcoes.altura);
+        connect(hscroll_, &QScrollBar::valueChanged, this, &JanelaDesenho::MudarLargura);
+        connect(vscroll_, &QScrollBar::valueChanged, this, &JanelaDesenho::MudarAltura);
+
+        quadroDimensao_ = new QGroupBox(QStringLiteral("Dimensão da janela"), area);
+        quadroDimensao_->resize(300, 48);
+        auto* rotulo = new QLabel(QStringLiteral("Nº de pixeis:"), quadroDimensao_);
+        rotulo->setGeometry(12, 20, 90, 20);
+        labelDimensao_ = new QLabel(QStringLiteral("628 x 628"), quadroDimensao_);
+        labelDimensao_->setObjectName(QStringLiteral("LabelDimensãoJanela"));
+        labelDimensao_->setGeometry(105, 20, 120, 20);
+    }
+
+    if (opcoes.limites) {
+        quadroArea_ = new QGroupBox(QStringLiteral("Área de desenho"), area);
+        quadroArea_->resize(300, 80);
+        struct Campo { QLineEdit** edit; const char* nome; const char* rotulo; int x, y; };
+        const Campo campos[] = {
+            {&xmin_, "Xmínimo", "Xmín", 10, 20}, {&xmax_, "Xmáximo", "Xmáx", 155, 20},
+            {&ymin_, "Ymínimo", "Ymín", 10, 48}, {&ymax_, "Ymáximo", "Ymáx", 155, 48},
+        };
+        for (const Campo& c : campos) {
+            auto* rotulo = new QLabel(QString::fromUtf8(c.rotulo), quadroArea_);
+            rotulo->setGeometry(c.x, c.y + 2, 36, 20);
+            *c.edit = new QLineEdit(quadroArea_);
+            (*c.edit)->setObjectName(QString::fromUtf8(c.nome));
+            (*c.edit)->setGeometry(c.x + 38, c.y, 95, 24);
+        }
+    }
+
+    quadroOpcoes_ = new QGroupBox(QStringLiteral("Opções"), area);
+    quadroOpcoes_->resize(300, 60);
+    struct Botao { QPushButton** botao; const char* nome; const char* texto; const char* dica; };
+    const Botao botoes[] = {
+        {&guardar_, "GuardarGráfico", "Guardar", "Guardar como imagem .bmp o gráfico da função."},
+        {&copiar_, "CopiarGráfico", "Copiar", "Copiar o gráfico para outra aplicação."},
+        {&apagar_, "ApagarGráfico", "Apagar", "Apagar a janela de desenho."},
+    };
+    int x = 10;
+    for (const Botao& b : botoes) {
+        *b.botao = new QPushButton(QString::fromUtf8(b.texto), quadroOpcoes_);
+        (*b.botao)->setObjectName(QString::fromUtf8(b.nome));
+        (*b.botao)->setToolTip(QString::fromUtf8(b.dica));
+        (*b.botao)->setGeometry(x, 22, 68, 28);
+        x += 72;
+    }
+    connect(guardar_, &QPushButton::clicked, this, &JanelaDesenho::GuardarGrafico);
+    connect(copiar_, &QPushButton::clicked, this, &JanelaDesenho::CopiarGrafico);
+    connect(apagar_, &QPushButton::clicked, this, &JanelaDesenho::ApagarGrafico);
+}
+
+void JanelaDesenho::LerLimitesSimples()
+{
+    if (!xmin_)
+        return;
+    xmin = LerValor(xmin_->text().toStdString());
+    xmax = LerValor(xmax_->text().toStdString());
+    ymin = LerValor(ymin_->text().toStdString());
+    ymax = static_cast<float>(LerValor(ymax_->text().toStdString()));
+}
+
+bool JanelaDesenho::ValidarLimites(const QString& titulo, bool testarYmaximo)
+{
+    QLineEdit* const obrigatorios[] = {xmin_, xmax_, ymin_, testarYmaximo ? ymax_ : ymin_};
+    for (QLineEdit* campo : obrigatorios) {
+        if (campo->text().trimmed().isEmpty()) {
+            Sistema().Mensagem(pagina_, QStringLiteral("Lumerina"),
+                               QStringLiteral("São necessários todos os limites da janela de desenho."),
+                               IconeMensagem::Informacao);
+            return false;
+        }
+    }
+    try {
+        // One after the other, as typed: a failing field leaves the earlier limits read.
+        xmin = AvaliarLimite(xmin_->text());
+        xmax = AvaliarLimite(xmax_->text());
+        ymin = AvaliarLimite(ymin_->text());
+        if (!ymax_->text().trimmed().isEmpty())
+            ymax = static_cast<float>(AvaliarLimite(ymax_->text()));
+    } catch (const ErroInterpretador& erro) {
+        Sistema().Mensagem(pagina_, QString::fromStdString(erro.origem()),
+                           QString::fromStdString(erro.what()), IconeMensagem::Informacao);
+        return false;
+    }
+    if (ymin >= ymax) {
+        Sistema().Mensagem(pagina_, titulo,
+                           QStringLiteral("O valor de Ymáx deve ser maior que o de Ymín."),
+                           IconeMensagem::Informacao);
+        return false;
+    }
+    if (xmin >= xmax) {
+        Sistema().Mensagem(pagina_, titulo,
+                           QStringLiteral("O valor de Xmáx deve ser maior que o de Xmín."),
+                           IconeMensagem::Informacao);
+        return false;
+    }
+    return true;
+}
+
+void JanelaDesenho::DesactivarBotoes()
+{
+    for (QPushButton* b : botoesDesenho_)
+        b->setEnabled(false);
+    apagar_->setEnabled(false);
+    copiar_->setEnabled(false);
+    guardar_->setEnabled(false);
+}
+
+void JanelaDesenho::ActivarBotoes()
+{
+    for (QPushButton* b : botoesDesenho_)
+        b->setEnabled(true);
+    apagar_->setEnabled(true);
+    copiar_->setEnabled(true);
+    guardar_->setEnabled(true);
+}
+
+void JanelaDesenho::IniciarDesenho()
+{
+    Sistema().CursorEspera(pagina_, true);
+    imagem_->DefinirPersistente(true);
+    DesactivarBotoes();
+}
+
+void JanelaDesenho::TerminarDesenho()
+{
+    Sistema().CursorEspera(pagina_, false);
+    imagem_->MostrarPendente();
+    DefinirEscalaMundo();
+    desenhado = true;
+    ActivarBotoes();
+}
+
+void JanelaDesenho::DefinirEscalaMundo()
+{
+    imagem_->Escala(xmin, ymax, xmax, ymin);
+}
+
+void JanelaDesenho::ApagarGrafico()
+{
+    imagem_->Limpar();
+    desenhado = false;
+}
+
+void JanelaDesenho::CopiarGrafico()
+{
+    Sistema().CopiarImagem(imagem_->Imagem());
+}
+
+void JanelaDesenho::GuardarGrafico()
+{
+    const RespostaGuardar resposta =
+        Sistema().DialogoGuardar(pagina_, kFiltroBmp, QStringLiteral("bmp"));
+    if (resposta.extensaoDiferente) {
+        Sistema().Mensagem(pagina_, QStringLiteral("Lumerina"),
+                           QStringLiteral("Essa extensão não é permitida."), IconeMensagem::Nenhum);
+        return;
+    }
+    if (resposta.ficheiro.isEmpty())
+        return;
+    if (!imagem_->Imagem().save(resposta.ficheiro, "BMP"))
+        Sistema().Mensagem(pagina_, QStringLiteral("Lumerina"),
+                           QStringLiteral("Não foi possível guardar o ficheiro."),
+                           IconeMensagem::Informacao);
+}
+
+void JanelaDesenho::MudarLargura(int largura)
+{
+    imagem_->Redimensionar(largura, imagem_->AlturaPixeis());
+    hscroll_->resize(largura, hscroll_->height());
+    vscroll_->move(origem_.x() + imagem_->width() + kFolga, vscroll_->y());
+    ActualizarDimensao();
+}
+
+void JanelaDesenho::MudarAltura(int altura)
+{
+    imagem_->Redimensionar(imagem_->LarguraPixeis(), altura);
+    vscroll_->resize(vscroll_->width(), altura);
+    hscroll_->move(hscroll_->x(), origem_.y() + imagem_->height() + kFolga);
+    ActualizarDimensao();
+}
+
+void JanelaDesenho::ActualizarDimensao()
+{
+    imagem_->EscalaPixeis();
+    // Int(W + 1) x Int(H + 1): the columns and rows the escape-time loops visit (0..W).
+    const int w = static_cast<int>(std::floor(imagem_->LarguraEscala() + 1));
+    const int h = static_cast<int>(std::floor(imagem_->AlturaEscala() + 1));
+    labelDimensao_->setText(QStringLiteral("%1 x %2").arg(w).arg(h));
+    DefinirEscalaMundo();
+}
+
+void JanelaDesenho::RatoPremido(Qt::MouseButton botao, double x, double y)
+{
+    if (botao != Qt::LeftButton || !desenhado || !xmin_)
+        return;
+    // The box goes to the screen only, never into the saved image.
+    imagem_->DefinirPersistente(false);
+    imagem_->DefinirEstilo(EstiloTraco::Pontilhado);
+    imagem_->DefinirModo(ModoDesenho::Inverter);
+    x0_ = x1_ = x;
+    y0_ = y1_ = y;
+}
+
+void JanelaDesenho::RatoMovido(Qt::MouseButtons botoes, double x, double y)
+{
+    if (!(botoes & Qt::LeftButton) || !desenhado || imagem_->Modo() != ModoDesenho::Inverter)
+        return;
+    imagem_->Caixa(x0_, y0_, x1_, y1_, 0);  // invert again: erases the last box
+    imagem_->Caixa(x0_, y0_, x, y, 0);
+    x1_ = x;
+    y1_ = y;
+}
+
+void JanelaDesenho::RatoLargado(Qt::MouseButton botao, double x, double y)
+{
+    if (botao != Qt::LeftButton)
+        return;
+    if (desenhado && imagem_->Modo() == ModoDesenho::Inverter) {
+        imagem_->Caixa(x0_, y0_, x1_, y1_, 0);
+        imagem_->Caixa(x0_, y0_, x, y, 0);
+        xmin_->setText(TextoLimite(std::min(x0_, x)));
+        xmax_->setText(TextoLimite(std::max(x0_, x)));
+        ymin_->setText(TextoLimite(std::min(y0_, y)));
+        ymax_->setText(TextoLimite(std::max(y0_, y)));
+    }
+    imagem_->DefinirModo(ModoDesenho::Copiar);
+}
+
+}  // namespace lumerina

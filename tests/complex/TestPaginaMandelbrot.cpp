@@ -1,0 +1,230 @@
+// The Mandelbrot page: validation order, drawing state, colourings changed mid-drawing,
+// orientation of the picture, zoom and redraw.
+
+#include "app/Paginas.h"
+#include "complex/PaginaMandelbrot.h"
+#include "frame/ControloImagem.h"
+#include "frame/JanelaDesenho.h"
+#include "support/PlataformaGravadora.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+
+namespace lumerina::teste {
+namespace {
+
+const QRgb kCastanho = qRgb(128, 128, 0);  // colour 6 of the 16-colour palette
+
+class Mandelbrot : public TesteUi {
+protected:
+    void SetUp() override
+    {
+        TesteUi::SetUp();
+        pagina = qobject_cast<PaginaMandelbrot*>(Pagina(2));
+        ASSERT_NE(pagina, nullptr);
+        janela = pagina->Janela();
+        imagem = janela->Imagem();
+    }
+    void Lado(int pixeis)
+    {
+        Achar<QScrollBar>(pagina, "HScroll1")->setValue(pixeis);
+        Achar<QScrollBar>(pagina, "VScroll1")->setValue(pixeis);
+    }
+    void Texto(const char* campo, const char* texto)
+    {
+        Achar<QLineEdit>(pagina, campo)->setText(QString::fromUtf8(texto));
+    }
+    void Vista(const char* x0, const char* x1, const char* y0, const char* y1)
+    {
+        Texto("Xmínimo", x0);
+        Texto("Xmáximo", x1);
+        Texto("Ymínimo", y0);
+        Texto("Ymáximo", y1);
+    }
+    void Escolher(const char* opcao) { Achar<QRadioButton>(pagina, opcao)->click(); }
+    // A drawing; the recorder counts its yields from 1.
+    void Desenhar()
+    {
+        sistema->cedencias = 0;
+        Achar<QPushButton>(pagina, "DesenharMandelbrot")->click();
+    }
+    QRgb Pixel(int x, int y) const { return imagem->Imagem().pixel(x, y); }
+
+    PaginaMandelbrot* pagina = nullptr;
+    JanelaDesenho* janela = nullptr;
+    ControloImagem* imagem = nullptr;
+};
+
+TEST_F(Mandelbrot, ValoresIniciais)
+{
+    EXPECT_EQ(Achar<QLineEdit>(pagina, "MaxIterações")->text(), "150");
+    EXPECT_EQ(Achar<QPushButton>(pagina, "DesenharMandelbrot")->text(), " Desenhar");
+    EXPECT_TRUE(Achar<QRadioButton>(pagina, "MandelNormal")->isChecked());
+    // The rectangle exists before the first drawing.
+    EXPECT_DOUBLE_EQ(janela->xmin, -1.6);
+    EXPECT_DOUBLE_EQ(janela->xmax, 0.6);
+    EXPECT_DOUBLE_EQ(janela->ymin, -1.3);
+    EXPECT_EQ(janela->ymax, 1.3f);
+}
+
+TEST_F(Mandelbrot, ValidacaoPelaOrdemComAsMensagensDaPagina)
+{
+    Lado(20);
+    const char* inteiro = "O número de iterações deve ser um número inteiro.";
+    const char* gama = "O número de iterações deve estar compreendido entre 1 e 256.";
+    struct Caso { const char* n; const char* texto; };
+    const Caso casos[] = {
+        {"256", nullptr}, {"1", nullptr}, {" 12 ", nullptr},
+        {"257", gama},    {"0", gama},    {"-3", gama},
+        {"2.5", inteiro}, {"abc", inteiro}, {"", inteiro},
+    };
+    for (const Caso& c : casos) {
+        sistema->mensagens.clear();
+        janela->desenhado = false;
+        Texto("MaxIterações", c.n);
+        Desenhar();
+        SCOPED_TRACE(c.n);
+        if (!c.texto) {
+            EXPECT_TRUE(sistema->mensagens.empty());
+            EXPECT_TRUE(janela->desenhado);
+        } else {
+            ASSERT_EQ(sistema->mensagens.size(), 1u);
+            EXPECT_EQ(sistema->mensagens[0].titulo, "Conjunto de Mandelbrot");
+            EXPECT_EQ(sistema->mensagens[0].texto, QString::fromUtf8(c.texto));
+            EXPECT_FALSE(janela->desenhado);
+        }
+    }
+    // The limits are checked before the count, and an empty Ymáximo is no failure.
+    sistema->mensagens.clear();
+    Texto("Xmínimo", "");
+    Desenhar();
+    ASSERT_EQ(sistema->mensagens.size(), 1u);
+    EXPECT_EQ(sistema->mensagens[0].titulo, "Lumerina");
+    sistema->mensagens.clear();
+    Vista("-2", "1", "-1", "");
+    Texto("MaxIterações", "50");
+    Desenhar();
+    EXPECT_TRUE(sistema->mensagens.empty());
+    EXPECT_TRUE(janela->desenhado);
+    EXPECT_EQ(janela->ymax, 1.3f);
+}
+
+TEST_F(Mandelbrot, DesenhoDesactivaOsBotoesECedePorColuna)
+{
+    Lado(30);
+    int cedencias = 0;
+    sistema->aoCeder = [&](int vez) {
+        cedencias = vez;
+        EXPECT_TRUE(sistema->cursorEspera);
+        for (const char* b : {"DesenharMandelbrot", "ApagarGráfico", "CopiarGráfico", "GuardarGráfico"})
+            EXPECT_FALSE(Achar<QPushButton>(pagina, b)->isEnabled()) << b;
+        EXPECT_TRUE(Achar<QRadioButton>(pagina, "LinhasTipo1")->isEnabled());
+    };
+    Desenhar();
+    EXPECT_EQ(cedencias, 31);  // columns 0..W inclusive
+    EXPECT_FALSE(sistema->cursorEspera);
+    EXPECT_TRUE(Achar<QPushButton>(pagina, "DesenharMandelbrot")->isEnabled());
+    EXPECT_TRUE(janela->desenhado);
+    // The picture now speaks world coordinates.
+    EXPECT_DOUBLE_EQ(imagem->EscalaX(0), -1.6);
+    EXPECT_DOUBLE_EQ(imagem->EscalaY(0), double(1.3f));
+}
+
+TEST_F(Mandelbrot, LinhaDeBaixoEYMinimo)
+{
+    // Inside the main cardioid near the real axis, far outside at the top.
+    Lado(40);
+    Vista("-0.5", "-0.1", "-0.2", "3");
+    Escolher("SemLinhas");
+    sistema->coresEscolhidas = {QColor(255, 0, 0), QColor(0, 0, 255)};
+    Achar<QPushButton>(pagina, "Command8")->click();
+    Achar<QPushButton>(pagina, "Command9")->click();
+    EXPECT_TRUE(Achar<QLabel>(pagina, "Label5")->styleSheet().contains("#ff0000"));
+    Desenhar();
+    // Row j = 0 (y = Ymin) is drawn at picture row H = 40, past the edge; row 39 is j = 1.
+    for (int x = 0; x < 40; ++x) {
+        EXPECT_EQ(Pixel(x, 39), qRgb(255, 0, 0)) << x;
+        EXPECT_EQ(Pixel(x, 0), qRgb(0, 0, 255)) << x;
+    }
+}
+
+TEST_F(Mandelbrot, ColoracaoMudadaAMeioValeNaColunaSeguinte)
+{
+    Lado(24);
+    Vista("-0.2", "0.1", "-0.1", "0.1");  // every point interior
+    Escolher("LinhasTipo2");
+    sistema->aoCeder = [&](int vez) {
+        if (vez == 8)  // after column 7
+            Escolher("LinhasTipo1");
+        if (vez == 16)  // after column 15: N = 16 from column 16 on
+            Texto("MaxIterações", "16");
+    };
+    Desenhar();
+    for (int y = 0; y < 24; ++y) {
+        EXPECT_EQ(Pixel(7, y), kCastanho);               // 150 AND 15 = 6
+        EXPECT_EQ(Pixel(8, y), qRgb(0, 0, 0));           // interior colour, black until chosen
+    }
+    Escolher("LinhasTipo2");
+    sistema->aoCeder = [&](int vez) {
+        if (vez == 16)
+            Texto("MaxIterações", "16");
+        if (vez == 20)
+            Texto("MaxIterações", "abc");  // half typed: N stays
+    };
+    Texto("MaxIterações", "150");
+    Desenhar();
+    EXPECT_EQ(Pixel(15, 5), kCastanho);
+    EXPECT_EQ(Pixel(16, 5), qRgb(0, 0, 0));  // 16 AND 15 = 0
+    EXPECT_EQ(Pixel(23, 5), qRgb(0, 0, 0));
+}
+
+TEST_F(Mandelbrot, OutraPaletaAMeioNaoMudaAsCores)
+{
+    Lado(32);
+    Texto("MaxIterações", "40");
+    Escolher("CorVermelho");
+    Desenhar();
+    const QImage vermelho = imagem->Imagem().copy();
+    sistema->aoCeder = [&](int vez) {
+        if (vez == 5)
+            Escolher("CorAzul");
+    };
+    Escolher("CorVermelho");
+    Desenhar();
+    EXPECT_EQ(imagem->Imagem(), vermelho);
+    sistema->aoCeder = nullptr;
+    Desenhar();  // Azul now, from the start
+    EXPECT_NE(imagem->Imagem(), vermelho);
+}
+
+TEST_F(Mandelbrot, ZoomEscreveOsLimitesEODesenhoSeguinteAmplia)
+{
+    Lado(100);
+    Vista("-2", "1", "-1.5", "1.5");
+    Texto("MaxIterações", "30");
+    Desenhar();
+    const auto rato = [&](QEvent::Type tipo, QPoint p, Qt::MouseButton b, Qt::MouseButtons bs) {
+        const QPointF onde = imagem->contentsRect().topLeft() + p;
+        QMouseEvent e(tipo, onde, imagem->mapToGlobal(onde), b, bs, Qt::NoModifier);
+        QCoreApplication::sendEvent(imagem, &e);
+    };
+    rato(QEvent::MouseButtonPress, {50, 25}, Qt::LeftButton, Qt::LeftButton);
+    rato(QEvent::MouseMove, {75, 75}, Qt::NoButton, Qt::LeftButton);
+    rato(QEvent::MouseButtonRelease, {75, 75}, Qt::LeftButton, Qt::NoButton);
+    // x = -2 + px * 3/100, y = 1.5 - py * 3/100
+    EXPECT_EQ(Achar<QLineEdit>(pagina, "Xmínimo")->text(), "-0.5");
+    EXPECT_EQ(Achar<QLineEdit>(pagina, "Xmáximo")->text(), "0.25");
+    EXPECT_EQ(Achar<QLineEdit>(pagina, "Ymínimo")->text(), "-0.75");
+    EXPECT_EQ(Achar<QLineEdit>(pagina, "Ymáximo")->text(), "0.75");
+    Desenhar();
+    EXPECT_DOUBLE_EQ(janela->xmin, -0.5);
+    EXPECT_DOUBLE_EQ(janela->xmax, 0.25);
+    EXPECT_DOUBLE_EQ(imagem->EscalaX(100), 0.25);
+}
+
+}  // namespace
+}  // namespace lumerina::teste

@@ -1,0 +1,80 @@
+// Pictures of the program made by the program itself, on the offscreen platform:
+//   lumerina_capturas docs            the main page and the Mandelbrot page after a drawing
+//   lumerina_capturas paginas PASTA   every information page, one PNG each
+// `make capturas` runs both.
+
+#include "app/Aplicacao.h"
+#include "app/PaginaInformacao.h"
+#include "app/Paginas.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QWidget>
+
+#include <cstdio>
+
+namespace {
+
+bool Guardar(QWidget* pagina, const QString& ficheiro)
+{
+    const bool feito = pagina->grab().save(ficheiro);
+    std::printf("%s %s\n", feito ? "escrito" : "FALHOU", qPrintable(ficheiro));
+    return feito;
+}
+
+int Documentacao(const QString& pasta)
+{
+    QDir().mkpath(pasta);
+    QWidget* inicial = AbrirLumerina();
+    bool ok = Guardar(inicial, pasta + "/pagina-inicial.png");
+    QWidget* mandel = lumerina::Pagina(2);
+    mandel->show();
+    mandel->findChild<QRadioButton*>("CorFogo")->setChecked(true);
+    mandel->findChild<QLineEdit*>("MaxIterações")->setText("256");
+    mandel->findChild<QPushButton*>("DesenharMandelbrot")->click();
+    ok = Guardar(mandel, pasta + "/pagina-mandelbrot.png") && ok;
+    return ok ? 0 : 1;
+}
+
+int Paginas(const QString& pasta)
+{
+    QDir().mkpath(pasta);
+    bool ok = true;
+    for (const lumerina::LivroInformacao* livro :
+         {&lumerina::LivroInstrucoes(), &lumerina::LivroComentarios(), &lumerina::LivroSugestoes()}) {
+        for (int k = 1; k <= livro->paginas; ++k) {
+            const QImage imagem = lumerina::DesenharPaginaInformacao(
+                lumerina::TextoPaginaInformacao(*livro, k),
+                {lumerina::PaginaInformacao::kLarguraPagina, lumerina::PaginaInformacao::kAlturaPagina},
+                1.0);
+            const QString nome = QStringLiteral("%1/%2-%3.png")
+                                     .arg(pasta, QString::fromUtf8(livro->pasta))
+                                     .arg(k, 2, 10, QLatin1Char('0'));
+            ok = imagem.save(nome) && ok;
+        }
+    }
+    std::printf("%s\n", ok ? "páginas escritas" : "FALHOU");
+    return ok ? 0 : 1;
+}
+
+}  // namespace
+
+int main(int argc, char* argv[])
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    const QStringList args = app.arguments();
+    int codigo = 2;
+    if (args.size() >= 3 && args[1] == "docs")
+        codigo = Documentacao(args[2]);
+    else if (args.size() >= 3 && args[1] == "paginas")
+        codigo = Paginas(args[2]);
+    else
+        std::fprintf(stderr, "uso: lumerina_capturas docs PASTA | paginas PASTA\n");
+    lumerina::FecharLumerina();
+    return codigo;
+}
