@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -222,24 +223,22 @@ void PaginaMandelbrot::Desenhar(VarianteMandel variante)
         PreencherMulticor(paleta_);
 
     janela_->IniciarDesenho();
-    ControloImagem* imagem = janela_->Imagem();
     const VistaMundo vista{janela_->xmin, janela_->xmax, janela_->ymin, janela_->ymax, W_, H_};
-    contagens_.assign(static_cast<std::size_t>(H_) + 1, 0);
-    const int largura = imagem->LarguraPixeis(), altura = imagem->AlturaPixeis();
+    const std::size_t linhas = static_cast<std::size_t>(H_) + 1;
+    contagens_.assign(linhas, 0);
+    cores_.assign(linhas * kBloco, 0);
+    const int ultimaVisivel = std::min(static_cast<int>(W_), janela_->Imagem()->LarguraPixeis() - 1);
     int N = N_;
     // Columns 0..W and rows 0..H inclusive, row j drawn at picture row H - j; the column
     // and row past the picture's edge are computed and fall outside it.
     for (int i = 0; i <= W_; ++i) {
         ColunaMandelbrot(variante, vista, i, N, contagens_.data());
-        // The colouring option is read once per column: it can only change during a yield.
-        const OpcoesCor opcoes = ColoracaoActual();
-        if (i < largura) {
-            for (int j = 0; j <= H_; ++j) {
-                const int y = H_ - j;
-                if (y >= 0 && y < altura)
-                    imagem->Linha(y)[i] = CorMandelbrot(opcoes, contagens_[j], N, i, j);
-            }
-            imagem->Sujar(QRect(i, 0, 1, altura));
+        if (i <= ultimaVisivel) {
+            // The colouring option is read once per column: it can only change in a yield.
+            Cor* coluna = &cores_[static_cast<std::size_t>(i % kBloco) * linhas];
+            CoresColuna(ColoracaoActual(), contagens_.data(), N, i, H_, coluna);
+            if (i % kBloco == kBloco - 1 || i == ultimaVisivel)
+                EscreverColunas(i - i % kBloco, i);
         }
         if (!Sistema().Ceder())
             return;  // the program is ending
@@ -247,6 +246,23 @@ void PaginaMandelbrot::Desenhar(VarianteMandel variante)
     }
     janela_->TerminarDesenho();
     valido_ = false;
+}
+
+// Columns are computed one at a time but written a block at a time, row by row: writing a
+// single column touches one cache line per row, a block fills them.
+void PaginaMandelbrot::EscreverColunas(int primeira, int ultima)
+{
+    ControloImagem* imagem = janela_->Imagem();
+    const std::size_t linhas = static_cast<std::size_t>(H_) + 1;
+    const int altura = imagem->AlturaPixeis();
+    const int colunas = ultima - primeira + 1;
+    for (int y = 0; y < altura && y <= H_; ++y) {
+        const std::size_t j = static_cast<std::size_t>(H_ - y);
+        QRgb* destino = imagem->Linha(y) + primeira;
+        for (int c = 0; c < colunas; ++c)
+            destino[c] = cores_[static_cast<std::size_t>(c) * linhas + j];
+    }
+    imagem->Sujar(QRect(primeira, 0, colunas, altura));
 }
 
 void PaginaMandelbrot::EscolherCorInterior()

@@ -40,6 +40,7 @@ private:
     // N as the field says now, when it is a usable count; otherwise the one in force.
     int ReLerIteracoes(int emVigor) const;
     OpcoesCor ColoracaoActual() const;
+    void EscreverColunas(int primeira, int ultima);
     void EscolherCorInterior();
     void EscolherCorExterior();
 
@@ -70,7 +71,9 @@ private:
     QColor corInterior_ = Qt::black;
     QColor corExterior_ = Qt::black;
     EsquemaCores paleta_{};
+    static constexpr int kBloco = 16;  // columns written to the picture together
     std::vector<int> contagens_;
+    std::vector<Cor> cores_;           // kBloco columns of H + 1 colours
 };
 
 }  // namespace lumerina
