@@ -286,6 +286,10 @@ void ControloImagem::Sujar(const QRect& rect, bool agora)
         p.drawImage(util.topLeft(), persistente_, util);
     }
     sujo_ |= util;
+    // A repaint is already due: it will show this too. (Drawings that never yield cannot
+    // wait for the timer, so they look at the clock every time.)
+    if (!agora && pintarDepois_.isActive())
+        return;
     if (desdeUltimaPintura_.elapsed() >= kIntervaloPintura)
         Mostrar(agora);
     else if (!pintarDepois_.isActive())
