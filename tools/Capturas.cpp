@@ -46,10 +46,16 @@ int Paginas(const QString& pasta)
     for (const lumerina::LivroInformacao* livro :
          {&lumerina::LivroInstrucoes(), &lumerina::LivroComentarios(), &lumerina::LivroSugestoes()}) {
         for (int k = 1; k <= livro->paginas; ++k) {
+            qreal pontos = 0;
             const QImage imagem = lumerina::DesenharPaginaInformacao(
                 lumerina::TextoPaginaInformacao(*livro, k),
                 {lumerina::PaginaInformacao::kLarguraPagina, lumerina::PaginaInformacao::kAlturaPagina},
-                1.0);
+                1.0, &pontos);
+            if (pontos < 11.5) {
+                std::printf("%s %d: %s\n", livro->pasta, k,
+                            pontos == 0 ? "NÃO CABE" : qPrintable(QStringLiteral("letra %1").arg(pontos)));
+                ok = ok && pontos > 0;
+            }
             const QString nome = QStringLiteral("%1/%2-%3.png")
                                      .arg(pasta, QString::fromUtf8(livro->pasta))
                                      .arg(k, 2, 10, QLatin1Char('0'));

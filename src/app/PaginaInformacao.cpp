@@ -15,6 +15,13 @@
 
 #include <algorithm>
 
+// The page texts are compiled into this static library; nothing else refers to them, so they
+// are registered by hand before the first read.
+static void RegistarTextos()
+{
+    Q_INIT_RESOURCE(info);
+}
+
 namespace lumerina {
 
 namespace {
@@ -53,6 +60,8 @@ const LivroInformacao& LivroSugestoes()
 
 QString TextoPaginaInformacao(const LivroInformacao& livro, int k)
 {
+    static const bool registados = (RegistarTextos(), true);
+    (void)registados;
     QFile ficheiro(QStringLiteral(":/info/%1/%2.html")
                        .arg(QString::fromUtf8(livro.pasta))
                        .arg(k, 2, 10, QLatin1Char('0')));
@@ -61,7 +70,7 @@ QString TextoPaginaInformacao(const LivroInformacao& livro, int k)
     return QString::fromUtf8(ficheiro.readAll());
 }
 
-QImage DesenharPaginaInformacao(const QString& html, QSize tamanho, qreal escala)
+QImage DesenharPaginaInformacao(const QString& html, QSize tamanho, qreal escala, qreal* pontos)
 {
     QImage imagem(tamanho * escala, QImage::Format_RGB32);
     imagem.setDevicePixelRatio(escala);
@@ -70,17 +79,23 @@ QImage DesenharPaginaInformacao(const QString& html, QSize tamanho, qreal escala
     QTextDocument documento;
     documento.setDefaultStyleSheet(QString::fromUtf8(kEstilo));
     documento.setDocumentMargin(18);
-    QFont letra(QStringLiteral("DejaVu Sans"));
-    documento.setTextWidth(tamanho.width());
-    documento.setHtml(html);
+    // Tables get room round their cells (Qt's rich text takes it as attributes, not CSS).
+    QString texto = html;
+    texto.replace(QLatin1String("<table>"),
+                  QLatin1String(R"(<table cellpadding="3" cellspacing="0" border="0">)"));
+    documento.setHtml(texto);
     // The page must fit its picture: a long page is set a little smaller rather than cut.
-    for (qreal pontos = 10.5; pontos >= 7.5; pontos -= 0.5) {
-        letra.setPointSizeF(pontos);
+    QFont letra(QStringLiteral("DejaVu Sans"));
+    qreal usados = 0;
+    for (qreal tamanhoLetra = 11.5; tamanhoLetra >= 8 && usados == 0; tamanhoLetra -= 0.5) {
+        letra.setPointSizeF(tamanhoLetra);
         documento.setDefaultFont(letra);
         documento.setTextWidth(tamanho.width());
         if (documento.size().height() <= tamanho.height())
-            break;
+            usados = tamanhoLetra;
     }
+    if (pontos)
+        *pontos = usados;
 
     QPainter pintor(&imagem);
     pintor.setRenderHint(QPainter::Antialiasing);

@@ -27,8 +27,11 @@ const LivroInformacao& LivroSugestoes();
 
 // The text of page k (1..P) of a book, from the resources; empty if it is missing.
 QString TextoPaginaInformacao(const LivroInformacao& livro, int k);
-// Page k rendered into a picture of the given size in device-independent pixels.
-QImage DesenharPaginaInformacao(const QString& html, QSize tamanho, qreal escala);
+// Page k rendered into a picture of the given size in device-independent pixels. A page
+// too long for it is set smaller; `pontos`, when given, receives the type size used, or 0
+// when even the smallest size does not fit.
+QImage DesenharPaginaInformacao(const QString& html, QSize tamanho, qreal escala,
+                                qreal* pontos = nullptr);
 
 class PaginaInformacao : public QWidget {
     Q_OBJECT
