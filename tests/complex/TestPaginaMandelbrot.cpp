@@ -7,12 +7,14 @@
 #include "frame/JanelaDesenho.h"
 #include "support/PlataformaGravadora.h"
 
+#include <QAction>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QTimer>
 
 namespace lumerina::teste {
 namespace {
@@ -224,6 +226,22 @@ TEST_F(Mandelbrot, ZoomEscreveOsLimitesEODesenhoSeguinteAmplia)
     EXPECT_DOUBLE_EQ(janela->xmin, -0.5);
     EXPECT_DOUBLE_EQ(janela->xmax, 0.25);
     EXPECT_DOUBLE_EQ(imagem->EscalaX(100), 0.25);
+}
+
+// "Abandonar o programa" chosen while the page draws: the drawing stops at that column and
+// the program's main loop ends with code 0.
+TEST_F(Mandelbrot, AbandonarAMeioDoDesenho)
+{
+    Lado(200);
+    int ultima = 0;
+    sistema->aoCeder = [&](int vez) {
+        ultima = vez;
+        if (vez == 10)
+            Achar<QAction>(pagina, "Abandonar")->trigger();
+    };
+    QTimer::singleShot(0, [&] { Desenhar(); });
+    EXPECT_EQ(QCoreApplication::exec(), 0);
+    EXPECT_EQ(ultima, 10);
 }
 
 }  // namespace
