@@ -3,6 +3,7 @@
 #include "app/PaginaBase.h"
 #include "app/Paginas.h"
 #include "frame/Plataforma.h"
+#include "interp/clsEquation.h"
 
 #include <QApplication>
 
@@ -88,6 +89,9 @@ QWidget* AbrirLumerina()
         ligado = true;
         QApplication::setQuitOnLastWindowClosed(false);
         QObject::connect(qApp, &QCoreApplication::aboutToQuit, [] { FecharLumerina(); });
+        // "rnd(", "rand(" and "random(" reseed from the platform's clock.
+        DefinirRelogioAleatorio(
+            +[]() -> std::uint64_t { return Sistema().SementeRelogio(); });
     }
     QWidget* inicial = Pagina(5);
     Mostrar(inicial);

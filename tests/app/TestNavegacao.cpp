@@ -2,6 +2,7 @@
 
 #include "app/Aplicacao.h"
 #include "app/Paginas.h"
+#include "interp/clsEquation.h"
 #include "support/PlataformaGravadora.h"
 
 #include <QAction>
@@ -136,6 +137,21 @@ TEST_F(Navegacao, InstrucoesEComentariosAbremNaPaginaDoTopico)
     Item(mandel, "Sugestões")->trigger();
     EXPECT_TRUE(Pagina(13)->isVisible());
     EXPECT_TRUE(mandel->isVisible());
+}
+
+// The interpreter's "rnd(" reseeds from the platform's clock: with the recorder's fixed
+// clock, two readings give the same number.
+TEST_F(Navegacao, AleatoriosSemeadosPeloRelogioDaPlataforma)
+{
+    AbrirLumerina();
+    clsEquation primeira, segunda;
+    primeira.Expression("rnd(1)");
+    segunda.Expression("rnd(1)");
+    EXPECT_EQ(primeira.Value(), segunda.Value());
+    sistema->semente += 1;
+    clsEquation terceira;
+    terceira.Expression("rnd(1)");
+    EXPECT_NE(terceira.Value(), primeira.Value());
 }
 
 // "Abandonar" in the middle of a loop that yields: the yield answers false at once, the
