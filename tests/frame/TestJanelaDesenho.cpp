@@ -9,7 +9,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QTemporaryDir>
 
@@ -234,22 +233,6 @@ TEST_F(Janela, OutraExtensaoNaoEPermitida)
     ASSERT_EQ(sistema->mensagens.size(), 1u);
     EXPECT_EQ(sistema->mensagens[0].texto, "Essa extensão não é permitida.");
     EXPECT_EQ(sistema->mensagens[0].icone, IconeMensagem::Nenhum);
-}
-
-TEST_F(Janela, DesenhoDesactivaBotoesEMostraAmpulheta)
-{
-    QPushButton desenhar;
-    janela->RegistarBotaoDesenho(&desenhar);
-    janela->IniciarDesenho();
-    EXPECT_TRUE(sistema->cursorEspera);
-    for (QPushButton* b : {&desenhar, janela->Guardar(), janela->Copiar(), janela->Apagar()})
-        EXPECT_FALSE(b->isEnabled());
-    EXPECT_FALSE(janela->desenhado);
-    janela->TerminarDesenho();
-    EXPECT_FALSE(sistema->cursorEspera);
-    for (QPushButton* b : {&desenhar, janela->Guardar(), janela->Copiar(), janela->Apagar()})
-        EXPECT_TRUE(b->isEnabled());
-    EXPECT_TRUE(janela->desenhado);
 }
 
 }  // namespace
