@@ -7,6 +7,7 @@
 #include "app/PaginaInformacao.h"
 #include "app/Paginas.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QLineEdit>
@@ -36,6 +37,9 @@ int Documentacao(const QString& pasta)
     mandel->findChild<QLineEdit*>("MaxIterações")->setText("256");
     mandel->findChild<QPushButton*>("DesenharMandelbrot")->click();
     ok = Guardar(mandel, pasta + "/pagina-mandelbrot.png") && ok;
+    // "Comentários" from the Mandelbrot page opens at its first page on the set.
+    mandel->findChild<QAction*>("Comentários")->trigger();
+    ok = Guardar(lumerina::Pagina(8), pasta + "/pagina-comentarios.png") && ok;
     return ok ? 0 : 1;
 }
 
