@@ -81,7 +81,7 @@ bool PlataformaQt::Ceder()
 {
     // A drawing yields after every column, hundreds of times a second. Handling events
     // every few milliseconds is as responsive to a person and keeps the yield nearly free.
-    constexpr qint64 kIntervalo = 4;  // ms
+    constexpr qint64 kIntervalo = 10;  // ms
     if (!ATerminar() && (!desdeCedencia_.isValid() || desdeCedencia_.elapsed() >= kIntervalo)) {
         QCoreApplication::processEvents(QEventLoop::AllEvents);
         desdeCedencia_.start();
