@@ -90,6 +90,11 @@ template <class Vd>
 // together: after step t every running lane has n = t, so "n < N" is the bound of the loop
 // and each lane needs only its own escape test, which once failed stays failed (a stopped lane
 // goes on stepping, unseen). Lanes from `quantos` on are idle: they never run.
+// GCC cannot see that the lanes below are all written before use, and says they may not be.
+#if defined(__GNUC__) && !defined(__clang__)
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
+#endif
 template <VarianteMandel V, class Vd, int G>
 [[gnu::always_inline]] inline void Bloco(double px, const double* pys, int quantos, int N,
                                          double* ns)
@@ -124,6 +129,9 @@ template <VarianteMandel V, class Vd, int G>
     }
     std::memcpy(ns, n, sizeof n);
 }
+#if defined(__GNUC__) && !defined(__clang__)
+#pragma GCC diagnostic pop
+#endif
 
 // One column: the rows that need the loop are gathered in turn (for z² + c the points of the
 // main cardioid and of the period-2 bulb are set to N at once), then run G·E at a time.
