@@ -249,13 +249,17 @@ void PaginaMandelbrot::Desenhar(VarianteMandel variante)
 }
 
 // Columns are computed one at a time but written a block at a time, row by row: writing a
-// single column touches one cache line per row, a block fills them.
+// single column touches one cache line per row, a block fills them. The scroll bars stay live
+// during a drawing, so the picture may have been resized since the drawing began: what falls
+// outside it now is dropped.
 void PaginaMandelbrot::EscreverColunas(int primeira, int ultima)
 {
     ControloImagem* imagem = janela_->Imagem();
     const std::size_t linhas = static_cast<std::size_t>(H_) + 1;
     const int altura = imagem->AlturaPixeis();
-    const int colunas = ultima - primeira + 1;
+    const int colunas = std::min(ultima, imagem->LarguraPixeis() - 1) - primeira + 1;
+    if (colunas <= 0)
+        return;
     for (int y = 0; y < altura && y <= H_; ++y) {
         const std::size_t j = static_cast<std::size_t>(H_ - y);
         QRgb* destino = imagem->Linha(y) + primeira;

@@ -175,6 +175,25 @@ TEST_F(Mandelbrot, ColoracaoMudadaAMeioValeNaColunaSeguinte)
     EXPECT_EQ(Pixel(23, 5), qRgb(0, 0, 0));
 }
 
+// The scroll bars stay live while the page draws: shrinking or growing the picture in the
+// middle of a drawing must not write outside it.
+TEST_F(Mandelbrot, RedimensionarAMeioDoDesenho)
+{
+    Lado(120);
+    sistema->aoCeder = [&](int vez) {
+        if (vez == 20) {
+            Achar<QScrollBar>(pagina, "HScroll1")->setValue(40);
+            Achar<QScrollBar>(pagina, "VScroll1")->setValue(30);
+        }
+        if (vez == 60)
+            Achar<QScrollBar>(pagina, "HScroll1")->setValue(100);
+    };
+    Desenhar();
+    EXPECT_TRUE(janela->desenhado);
+    EXPECT_EQ(imagem->LarguraPixeis(), 100);
+    EXPECT_EQ(imagem->AlturaPixeis(), 30);
+}
+
 TEST_F(Mandelbrot, OutraPaletaAMeioNaoMudaAsCores)
 {
     Lado(32);
