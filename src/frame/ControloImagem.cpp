@@ -69,14 +69,14 @@ void ControloImagem::Limpar()
     persistente_.fill(corFundo_);
     ecraSeparado_ = false;
     ecra_ = QImage();
-    Sujar(persistente_.rect());
+    Agendar(persistente_.rect());
 }
 
 void ControloImagem::Refrescar()
 {
     ecraSeparado_ = false;
     ecra_ = QImage();
-    Sujar(persistente_.rect());
+    Agendar(persistente_.rect());
 }
 
 void ControloImagem::EscalaPixeis()
@@ -211,7 +211,7 @@ void ControloImagem::Pixel(double x, double y, QRgb cor)
 {
     const int px = Arredondar(PixelX(x)), py = Arredondar(PixelY(y));
     NasCamadas([&](QImage& img) { PontoNaImagem(img, px, py, cor); });
-    Sujar(QRect(px, py, 1, 1));
+    Agendar(QRect(px, py, 1, 1));
 }
 
 void ControloImagem::Linha(double x1, double y1, double x2, double y2, QRgb cor)
@@ -234,8 +234,8 @@ void ControloImagem::Linha(double x1, double y1, double x2, double y2, QRgb cor)
             CanetaLarga(img, nullptr, QLineF(a, b, c, d), cor);
         }
     });
-    Sujar(QRect(QPoint(std::min(a, c), std::min(b, d)), QPoint(std::max(a, c), std::max(b, d)))
-              .adjusted(-espessura_, -espessura_, espessura_, espessura_));
+    Agendar(QRect(QPoint(std::min(a, c), std::min(b, d)), QPoint(std::max(a, c), std::max(b, d)))
+                .adjusted(-espessura_, -espessura_, espessura_, espessura_));
 }
 
 void ControloImagem::Caixa(double x1, double y1, double x2, double y2, QRgb cor)
@@ -252,7 +252,7 @@ void ControloImagem::Caixa(double x1, double y1, double x2, double y2, QRgb cor)
         else
             CanetaLarga(img, &caixa, {}, cor);
     });
-    Sujar(caixa.adjusted(-espessura_, -espessura_, espessura_, espessura_));
+    Agendar(caixa.adjusted(-espessura_, -espessura_, espessura_, espessura_));
 }
 
 void ControloImagem::Texto(double x, double y, const QString& texto, QRgb cor)
@@ -270,7 +270,7 @@ void ControloImagem::Texto(double x, double y, const QString& texto, QRgb cor)
         p.drawText(area, Qt::AlignLeft | Qt::AlignTop, texto, &usada);
         tocado = usada.toAlignedRect();
     });
-    Sujar(tocado);
+    Agendar(tocado);
 }
 
 void ControloImagem::Sujar(const QRect& rect, bool agora)
@@ -278,13 +278,22 @@ void ControloImagem::Sujar(const QRect& rect, bool agora)
     const QRect util = rect.intersected(persistente_.rect());
     if (util.isEmpty())
         return;
-    if (ecraSeparado_ && persistenteLigado_) {
-        // The persistent image changed under an on-screen drawing: the screen shows the
-        // new pixels, as a repaint from the persistent image would.
+    if (ecraSeparado_) {
+        // The persistent image changed under something drawn on screen only (a zoom box
+        // dragged during a drawing, say): the screen shows the new pixels, as a repaint from
+        // the persistent image would.
         QPainter p(&ecra_);
         p.setCompositionMode(QPainter::CompositionMode_Source);
         p.drawImage(util.topLeft(), persistente_, util);
     }
+    Agendar(util, agora);
+}
+
+void ControloImagem::Agendar(const QRect& rect, bool agora)
+{
+    const QRect util = rect.intersected(persistente_.rect());
+    if (util.isEmpty())
+        return;
     sujo_ |= util;
     // A repaint is already due: it will show this too. (Drawings that never yield cannot
     // wait for the timer, so they look at the clock every time.)

@@ -66,8 +66,9 @@ public:
 
     // Direct access for hot loops: a scan line of the persistent image (Format_RGB32).
     QRgb* Linha(int y) { return reinterpret_cast<QRgb*>(persistente_.scanLine(y)); }
-    // Marks a rectangle of the persistent image as changed. With `agora` the screen is
-    // repainted synchronously (for drawings that never yield), still at most ~60 times a second.
+    // Marks a rectangle of the persistent image, written through Linha(), as changed: the
+    // screen takes it too. With `agora` the screen is repainted synchronously (for drawings
+    // that never yield), still at most ~60 times a second.
     void Sujar(const QRect& rect, bool agora = false);
     // Shows whatever is still pending.
     void MostrarPendente();
@@ -99,6 +100,8 @@ private:
     void CanetaLarga(QImage& img, const QRect* caixa, QLineF linha, QRgb cor);
     QPointF ParaPixel(double x, double y) const { return {PixelX(x), PixelY(y)}; }
     QPointF PosicaoRato(const QMouseEvent* evento) const;
+    // Schedules the repaint of a rectangle already drawn on the screen layer.
+    void Agendar(const QRect& rect, bool agora = false);
     void Mostrar(bool agora);
 
     QImage persistente_;

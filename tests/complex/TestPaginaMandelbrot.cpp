@@ -194,6 +194,37 @@ TEST_F(Mandelbrot, RedimensionarAMeioDoDesenho)
     EXPECT_EQ(imagem->AlturaPixeis(), 30);
 }
 
+// A zoom box dragged while the page draws (the picture still counts as drawn from before):
+// the saved image is the whole picture, and the columns drawn after the box reach the screen.
+TEST_F(Mandelbrot, CaixaDeZoomDuranteODesenho)
+{
+    Lado(80);
+    Texto("MaxIterações", "30");
+    Desenhar();  // drawn: the mouse may zoom
+    const QImage referencia = imagem->Imagem().copy();
+    const auto rato = [&](QEvent::Type tipo, QPoint p, Qt::MouseButton b, Qt::MouseButtons bs) {
+        const QPointF onde = imagem->contentsRect().topLeft() + p;
+        QMouseEvent e(tipo, onde, imagem->mapToGlobal(onde), b, bs, Qt::NoModifier);
+        QCoreApplication::sendEvent(imagem, &e);
+    };
+    sistema->aoCeder = [&](int vez) {
+        if (vez == 5) {
+            rato(QEvent::MouseButtonPress, {2, 2}, Qt::LeftButton, Qt::LeftButton);
+            rato(QEvent::MouseMove, {60, 60}, Qt::NoButton, Qt::LeftButton);
+        }
+        if (vez == 8)
+            rato(QEvent::MouseButtonRelease, {60, 60}, Qt::LeftButton, Qt::NoButton);
+    };
+    Desenhar();
+    EXPECT_EQ(imagem->Imagem(), referencia);
+    const QImage ecra = imagem->ImagemEcra();
+    for (int y = 0; y < 80; ++y) {
+        for (int x = 16; x < 80; ++x) {  // the blocks of columns written after the box
+            ASSERT_EQ(ecra.pixel(x, y), referencia.pixel(x, y)) << x << "," << y;
+        }
+    }
+}
+
 TEST_F(Mandelbrot, OutraPaletaAMeioNaoMudaAsCores)
 {
     Lado(32);
