@@ -12,6 +12,7 @@
 #include <QScrollBar>
 
 #include <cmath>
+#include <limits>
 
 namespace lumerina {
 
@@ -155,8 +156,13 @@ bool JanelaDesenho::ValidarLimites(const QString& titulo, bool testarYmaximo)
         xmin = AvaliarLimite(xmin_->text());
         xmax = AvaliarLimite(xmax_->text());
         ymin = AvaliarLimite(ymin_->text());
-        if (!ymax_->text().trimmed().isEmpty())
-            ymax = static_cast<float>(AvaliarLimite(ymax_->text()));
+        if (!ymax_->text().trimmed().isEmpty()) {
+            const double topo = AvaliarLimite(ymax_->text());
+            // Held in single precision: beyond its range the conversion overflows.
+            if (std::fabs(topo) > std::numeric_limits<float>::max())
+                throw ErroInterpretador(6, "Excesso de capacidade.");
+            ymax = static_cast<float>(topo);
+        }
     } catch (const ErroInterpretador& erro) {
         Sistema().Mensagem(pagina_, QString::fromStdString(erro.origem()),
                            QString::fromStdString(erro.what()), IconeMensagem::Informacao);

@@ -93,6 +93,7 @@ TEST_F(Janela, ValidacaoDosLimitesPelaOrdem)
         {"1", "0", "1.3", "-1.3", "Página", ordemY},  // Y is checked before X
         {"1", "0", "-1", "1", "Página", ordemX},
         {"1", "1", "-1", "1", "Página", ordemX},
+        {"-2", "1", "-1", "10^300", "Interpretador", "Excesso de capacidade."},  // past a float
     };
     for (const Caso& c : casos) {
         sistema->mensagens.clear();
