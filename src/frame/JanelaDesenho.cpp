@@ -63,18 +63,17 @@ JanelaDesenho::JanelaDesenho(QWidget* pagina, QWidget* area, QPoint origem, Opco
 
     if (opcoes.barras) {
         // The bars' values are the picture's inner width and height in pixels.
-        hscroll_ = new QScrollBar(Qt::Horizontal, area);
-        hscroll_->setObjectName(QStringLiteral("HScroll1"));
-        hscroll_->setRange(kMinimoBarra, opcoes.largura);
-        hscroll_->setSingleStep(1);
-        hscroll_->setPageStep(10);
-        hscroll_->setValue(opcoes.largura);
-        vscroll_ = new QScrollBar(Qt::Vertical, area);
-        vscroll_->setObjectName(QStringLiteral("VScroll1"));
-        vscroll_->setRange(kMinimoBarra, opcoes.altura);
-        vscroll_->setSingleStep(1);
-        vscroll_->setPageStep(10);
-        vscroll_->setValue(opcoes.altura);
+        const auto barra = [area](Qt::Orientation sentido, const char* nome, int maximo) {
+            auto* b = new QScrollBar(sentido, area);
+            b->setObjectName(QString::fromUtf8(nome));
+            b->setRange(kMinimoBarra, maximo);
+            b->setSingleStep(1);
+            b->setPageStep(10);
+            b->setValue(maximo);
+            return b;
+        };
+        hscroll_ = barra(Qt::Horizontal, "HScroll1", opcoes.largura);
+        vscroll_ = barra(Qt::Vertical, "VScroll1", opcoes.altura);
         const QSize total = imagem_->size();
         hscroll_->setGeometry(origem.x(), origem.y() + total.height() + kFolga, opcoes.largura,
                               kEspessuraBarra);
