@@ -55,6 +55,13 @@ protected:
         Achar<QPushButton>(pagina, "DesenharMandelbrot")->click();
     }
     QRgb Pixel(int x, int y) const { return imagem->Imagem().pixel(x, y); }
+    // A mouse event at a pixel of the picture.
+    void Rato(QEvent::Type tipo, QPoint p, Qt::MouseButton botao, Qt::MouseButtons botoes)
+    {
+        const QPointF onde = imagem->contentsRect().topLeft() + p;
+        QMouseEvent e(tipo, onde, imagem->mapToGlobal(onde), botao, botoes, Qt::NoModifier);
+        QCoreApplication::sendEvent(imagem, &e);
+    }
 
     PaginaMandelbrot* pagina = nullptr;
     JanelaDesenho* janela = nullptr;
@@ -202,18 +209,13 @@ TEST_F(Mandelbrot, CaixaDeZoomDuranteODesenho)
     Texto("MaxIterações", "30");
     Desenhar();  // drawn: the mouse may zoom
     const QImage referencia = imagem->Imagem().copy();
-    const auto rato = [&](QEvent::Type tipo, QPoint p, Qt::MouseButton b, Qt::MouseButtons bs) {
-        const QPointF onde = imagem->contentsRect().topLeft() + p;
-        QMouseEvent e(tipo, onde, imagem->mapToGlobal(onde), b, bs, Qt::NoModifier);
-        QCoreApplication::sendEvent(imagem, &e);
-    };
     sistema->aoCeder = [&](int vez) {
         if (vez == 5) {
-            rato(QEvent::MouseButtonPress, {2, 2}, Qt::LeftButton, Qt::LeftButton);
-            rato(QEvent::MouseMove, {60, 60}, Qt::NoButton, Qt::LeftButton);
+            Rato(QEvent::MouseButtonPress, {2, 2}, Qt::LeftButton, Qt::LeftButton);
+            Rato(QEvent::MouseMove, {60, 60}, Qt::NoButton, Qt::LeftButton);
         }
         if (vez == 8)
-            rato(QEvent::MouseButtonRelease, {60, 60}, Qt::LeftButton, Qt::NoButton);
+            Rato(QEvent::MouseButtonRelease, {60, 60}, Qt::LeftButton, Qt::NoButton);
     };
     Desenhar();
     EXPECT_EQ(imagem->Imagem(), referencia);
@@ -223,6 +225,39 @@ TEST_F(Mandelbrot, CaixaDeZoomDuranteODesenho)
             ASSERT_EQ(ecra.pixel(x, y), referencia.pixel(x, y)) << x << "," << y;
         }
     }
+}
+
+// Whatever is typed into any field, a press of "Desenhar" either draws or says one message.
+TEST_F(Mandelbrot, EntradasEstranhasNaoRebentam)
+{
+    Lado(12);
+    const char* valores[] = {
+        "", " ", "abc", "(", ")", "1,2", "x", "-", "1.5.5", "1e308", "10^308", "-10^308",
+        "10^300", "1/0", "sqr(-1)", "0", "-0", "2147483648", "257", "256", "1e-320", "pi*10^-300",
+    };
+    for (const char* campo : {"Xmínimo", "Xmáximo", "Ymínimo", "Ymáximo", "MaxIterações"}) {
+        for (const char* valor : valores) {
+            Vista("-2", "1", "-1.5", "1.5");
+            Texto("MaxIterações", "20");
+            Texto(campo, valor);
+            sistema->mensagens.clear();
+            janela->desenhado = false;
+            Desenhar();
+            EXPECT_LE(sistema->mensagens.size(), 1u) << campo << " = " << valor;
+            EXPECT_EQ(sistema->mensagens.empty(), janela->desenhado) << campo << " = " << valor;
+        }
+    }
+    // Limits so far apart that their difference overflows still draw, and zoom safely.
+    Vista("-10^308", "10^308", "-1", "1");
+    Texto("MaxIterações", "20");
+    Desenhar();
+    EXPECT_TRUE(janela->desenhado);
+    Rato(QEvent::MouseButtonPress, {1, 5}, Qt::LeftButton, Qt::LeftButton);
+    Rato(QEvent::MouseMove, {9, 9}, Qt::NoButton, Qt::LeftButton);
+    Rato(QEvent::MouseButtonRelease, {9, 9}, Qt::LeftButton, Qt::NoButton);
+    sistema->mensagens.clear();
+    Desenhar();  // whatever the fields now say
+    EXPECT_LE(sistema->mensagens.size(), 1u);
 }
 
 TEST_F(Mandelbrot, OutraPaletaAMeioNaoMudaAsCores)
@@ -250,14 +285,9 @@ TEST_F(Mandelbrot, ZoomEscreveOsLimitesEODesenhoSeguinteAmplia)
     Vista("-2", "1", "-1.5", "1.5");
     Texto("MaxIterações", "30");
     Desenhar();
-    const auto rato = [&](QEvent::Type tipo, QPoint p, Qt::MouseButton b, Qt::MouseButtons bs) {
-        const QPointF onde = imagem->contentsRect().topLeft() + p;
-        QMouseEvent e(tipo, onde, imagem->mapToGlobal(onde), b, bs, Qt::NoModifier);
-        QCoreApplication::sendEvent(imagem, &e);
-    };
-    rato(QEvent::MouseButtonPress, {50, 25}, Qt::LeftButton, Qt::LeftButton);
-    rato(QEvent::MouseMove, {75, 75}, Qt::NoButton, Qt::LeftButton);
-    rato(QEvent::MouseButtonRelease, {75, 75}, Qt::LeftButton, Qt::NoButton);
+    Rato(QEvent::MouseButtonPress, {50, 25}, Qt::LeftButton, Qt::LeftButton);
+    Rato(QEvent::MouseMove, {75, 75}, Qt::NoButton, Qt::LeftButton);
+    Rato(QEvent::MouseButtonRelease, {75, 75}, Qt::LeftButton, Qt::NoButton);
     // x = -2 + px * 3/100, y = 1.5 - py * 3/100
     EXPECT_EQ(Achar<QLineEdit>(pagina, "Xmínimo")->text(), "-0.5");
     EXPECT_EQ(Achar<QLineEdit>(pagina, "Xmáximo")->text(), "0.25");
