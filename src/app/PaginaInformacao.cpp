@@ -127,7 +127,6 @@ PaginaInformacao::PaginaInformacao(const LivroInformacao& livro, int inicio, QWi
         imagem->hide();
         imagens_.push_back(imagem);
     }
-    desenhadas_.assign(imagens_.size(), false);
 
     setaE_ = new QToolButton(this);
     setaE_->setObjectName(QStringLiteral("SetaE"));
@@ -170,14 +169,13 @@ PaginaInformacao::PaginaInformacao(const LivroInformacao& livro, int inicio, QWi
 void PaginaInformacao::MostrarImagem(int indice)
 {
     const std::size_t i = static_cast<std::size_t>(indice - 1);
-    if (!desenhadas_[i]) {
+    if (imagens_[i]->pixmap().isNull()) {  // drawn the first time it is shown
         const qreal escala = QGuiApplication::primaryScreen()
                                  ? QGuiApplication::primaryScreen()->devicePixelRatio()
                                  : 1.0;
         const QImage pagina = DesenharPaginaInformacao(TextoPaginaInformacao(livro_, indice),
                                                        {kLarguraPagina, kAlturaPagina}, escala);
         imagens_[i]->setPixmap(QPixmap::fromImage(pagina));
-        desenhadas_[i] = true;
     }
     imagens_[i]->show();
 }

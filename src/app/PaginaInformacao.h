@@ -56,7 +56,6 @@ private:
 
     const LivroInformacao& livro_;
     std::vector<QLabel*> imagens_;  // Image1(1..P) at [0..P-1]
-    std::vector<bool> desenhadas_;
     QToolButton* setaE_ = nullptr;
     QToolButton* setaD_ = nullptr;
     QLabel* label2_ = nullptr;

@@ -161,7 +161,6 @@ void PaginaMandelbrot::CarregarDesenhar()
 
 bool PaginaMandelbrot::ValidarMandelbrot()
 {
-    valido_ = false;
     if (!janela_->ValidarLimites(kTitulo, false))
         return false;
     const auto recusar = [this](const char* texto) {
@@ -177,7 +176,6 @@ bool PaginaMandelbrot::ValidarMandelbrot()
     if (n <= 0 || n > 256)
         return recusar("O número de iterações deve estar compreendido entre 1 e 256.");
     N_ = static_cast<int>(n);
-    valido_ = true;
     return true;
 }
 
@@ -195,17 +193,16 @@ int PaginaMandelbrot::ReLerIteracoes(int emVigor) const
 
 OpcoesCor PaginaMandelbrot::ColoracaoActual() const
 {
-    OpcoesCor opcoes{Coloracao::Paleta, &paleta_, corInterior_.rgb(), corExterior_.rgb()};
+    // A palette scheme first; then the three options without a table, in this order.
+    Coloracao modo = Coloracao::SemLinhas;
     if (corFogo_->isChecked() || corAzul_->isChecked() || corVermelho_->isChecked() ||
         corMulticor_->isChecked())
-        opcoes.modo = Coloracao::Paleta;
+        modo = Coloracao::Paleta;
     else if (linhasTipo1_->isChecked())
-        opcoes.modo = Coloracao::LinhasTipo1;
+        modo = Coloracao::LinhasTipo1;
     else if (linhasTipo2_->isChecked())
-        opcoes.modo = Coloracao::LinhasTipo2;
-    else
-        opcoes.modo = Coloracao::SemLinhas;
-    return opcoes;
+        modo = Coloracao::LinhasTipo2;
+    return {modo, &paleta_, corInterior_.rgb(), corExterior_.rgb()};
 }
 
 void PaginaMandelbrot::Desenhar(VarianteMandel variante)
@@ -245,7 +242,6 @@ void PaginaMandelbrot::Desenhar(VarianteMandel variante)
         N = ReLerIteracoes(N);
     }
     janela_->TerminarDesenho();
-    valido_ = false;
 }
 
 // Columns are computed one at a time but written a block at a time, row by row: writing a

@@ -36,6 +36,7 @@ private:
     void DesenharMandelConjQuarta() { Desenhar(VarianteMandel::ConjQuarta); }
     // The one drawing procedure; the variants differ only in their step.
     void Desenhar(VarianteMandel variante);
+    // The page's checks in their order; true when the drawing may go on (the valid flag).
     bool ValidarMandelbrot();
     // N as the field says now, when it is a usable count; otherwise the one in force.
     int ReLerIteracoes(int emVigor) const;
@@ -67,7 +68,6 @@ private:
     double W_ = 628;        // picture's inner width in pixels (floating, as the loops use it)
     int H_ = 628;
     int N_ = 150;
-    bool valido_ = false;
     QColor corInterior_ = Qt::black;
     QColor corExterior_ = Qt::black;
     EsquemaCores paleta_{};
