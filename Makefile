@@ -9,7 +9,9 @@ PACKAGES := cmake make g++ pkg-config qt6-base-dev qt6-base-dev-tools libgl-dev 
 
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
-CMAKE_GEN := cmake -S . -Wno-dev
+# ccache, where the machine has it, makes rebuilds of several checkouts cheap.
+LAUNCHER := $(shell command -v ccache >/dev/null 2>&1 && echo -DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+CMAKE_GEN := cmake -S . -Wno-dev $(LAUNCHER)
 
 .PHONY: all deps run test bench fuzz capturas clean
 all: run
