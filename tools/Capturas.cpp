@@ -31,7 +31,7 @@ int Documentacao(const QString& pasta)
     QDir().mkpath(pasta);
     QWidget* inicial = AbrirLumerina();
     bool ok = Guardar(inicial, pasta + "/pagina-inicial.png");
-    QWidget* mandel = lumerina::Pagina(2);
+    QWidget* mandel = lumerina::Pagina(lumerina::Form::Mandelbrot);
     mandel->show();
     mandel->findChild<QRadioButton*>("CorFogo")->setChecked(true);
     mandel->findChild<QLineEdit*>("MaxIterações")->setText("256");
@@ -39,7 +39,7 @@ int Documentacao(const QString& pasta)
     ok = Guardar(mandel, pasta + "/pagina-mandelbrot.png") && ok;
     // "Comentários" from the Mandelbrot page opens at its first page on the set.
     mandel->findChild<QAction*>("Comentários")->trigger();
-    ok = Guardar(lumerina::Pagina(8), pasta + "/pagina-comentarios.png") && ok;
+    ok = Guardar(lumerina::Pagina(lumerina::Form::Comentarios), pasta + "/pagina-comentarios.png") && ok;
     return ok ? 0 : 1;
 }
 

@@ -14,9 +14,6 @@ int PaginaComentarios = 1;
 
 namespace {
 
-constexpr int kInstrucoes = 6;
-constexpr int kComentarios = 8;
-constexpr int kSugestoes = 13;
 
 void Mostrar(QWidget* pagina)
 {
@@ -46,18 +43,18 @@ void FecharPagina(PaginaBase* pagina)
 void AbrirInstrucoes(PaginaBase* origem)
 {
     PaginaInstrucoes = origem ? origem->PaginaInstrucoesPropria() : 1;
-    Mostrar(Pagina(kInstrucoes));
+    Mostrar(Pagina(Form::Instrucoes));
 }
 
 void AbrirComentarios(PaginaBase* origem)
 {
     PaginaComentarios = origem ? origem->PaginaComentariosPropria() : 1;
-    Mostrar(Pagina(kComentarios));
+    Mostrar(Pagina(Form::Comentarios));
 }
 
 void AbrirSugestoes(PaginaBase*)
 {
-    Mostrar(Pagina(kSugestoes));
+    Mostrar(Pagina(Form::Sugestoes));
 }
 
 void Abandonar()
@@ -93,7 +90,7 @@ QWidget* AbrirLumerina()
         DefinirRelogioAleatorio(
             +[]() -> std::uint64_t { return Sistema().SementeRelogio(); });
     }
-    QWidget* inicial = Pagina(5);
+    QWidget* inicial = Pagina(Form::Inicial);
     Mostrar(inicial);
     return inicial;
 }

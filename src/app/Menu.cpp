@@ -2,6 +2,7 @@
 
 #include "app/Aplicacao.h"
 #include "app/PaginaBase.h"
+#include "app/Paginas.h"
 
 #include <QMenuBar>
 
@@ -29,19 +30,19 @@ struct Menu {
 // "Sugestões" are items of the bar itself.
 const Menu kMenus[] = {
     {"Mandelbrot", "Mandelbrot",
-     {{"IrMandelbrot", "InícioMandelbrot", "Conjunto de Mandelbrot", 2},
-      {"Julia", "Julia", "Conjuntos de Julia", 1},
-      {"Órbitas", "Órbitas", "Órbitas", 3},
-      {"Relação", "Relação", "Relação Mandel/Julia", 4}}},
-    {"Newton", "Newton", {{"MétodoNewton", "MétodoNewton", "Método de Newton", 7}}},
+     {{"IrMandelbrot", "InícioMandelbrot", "Conjunto de Mandelbrot", Form::Mandelbrot},
+      {"Julia", "Julia", "Conjuntos de Julia", Form::Julia},
+      {"Órbitas", "Órbitas", "Órbitas", Form::Orbitas},
+      {"Relação", "Relação", "Relação Mandel/Julia", Form::Relacao}}},
+    {"Newton", "Newton", {{"MétodoNewton", "MétodoNewton", "Método de Newton", Form::Newton}}},
     {"IFS", "IFS",
-     {{"IrIFS", "Sistemas", "IFS", 10},
-      {"JogoCaos", "JogoCaos", "Jogo do caos", 11},
-      {"Transformações", "Transformações", "Transformações", 12}}},
-    {"Atractores", "Atractores", {{"IrAtractores", "IrAtractores", "Atractores", 16}}},
-    {"LSistemas", "L-Sistemas", {{"IrLSistemas", "IrLSistemas", "L-Sistemas", 9}}},
-    {"Sucessões", "Sucessões", {{"IrSucessões", "IrSucessões", "Sucessões", 14}}},
-    {"Dimensão", "Dimensão", {{"IrDimensão", "DimensãoFractal", "Dimensão", 15}}},
+     {{"IrIFS", "Sistemas", "IFS", Form::IFS},
+      {"JogoCaos", "JogoCaos", "Jogo do caos", Form::JogoCaos},
+      {"Transformações", "Transformações", "Transformações", Form::Transformacoes}}},
+    {"Atractores", "Atractores", {{"IrAtractores", "IrAtractores", "Atractores", Form::Atractores}}},
+    {"LSistemas", "L-Sistemas", {{"IrLSistemas", "IrLSistemas", "L-Sistemas", Form::LSistemas}}},
+    {"Sucessões", "Sucessões", {{"IrSucessões", "IrSucessões", "Sucessões", Form::Sucessoes}}},
+    {"Dimensão", "Dimensão", {{"IrDimensão", "DimensãoFractal", "Dimensão", Form::Dimensao}}},
 };
 
 QAction* Accao(QWidget* dono, const char* nome, const char* texto, std::function<void()> feito)

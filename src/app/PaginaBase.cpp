@@ -2,11 +2,14 @@
 
 #include "app/Aplicacao.h"
 #include "app/Menu.h"
+#include "app/Paginas.h"
 
 #include <QCloseEvent>
 #include <QLabel>
 
 namespace lumerina {
+
+bool PaginaBase::Inicial() const { return descricao_.numero == Form::Inicial; }
 
 PaginaBase::PaginaBase(const DescricaoPagina& descricao, QWidget* pai)
     : QMainWindow(pai), descricao_(descricao)

@@ -27,7 +27,7 @@ public:
     explicit PaginaBase(const DescricaoPagina& descricao, QWidget* pai = nullptr);
 
     int Numero() const { return descricao_.numero; }
-    bool Inicial() const { return descricao_.numero == 5; }
+    bool Inicial() const;
     int PaginaInstrucoesPropria() const { return descricao_.paginaInstrucoes; }
     int PaginaComentariosPropria() const { return descricao_.paginaComentarios; }
     QWidget* Area() const { return area_; }

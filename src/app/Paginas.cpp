@@ -15,22 +15,22 @@ namespace lumerina {
 namespace {
 
 const DescricaoPagina kDescricoes[] = {
-    {1, "CONJUNTOS DE JULIA", "Conjuntos de Julia", 9, 18},
-    {2, "CONJUNTO DE MANDELBROT", "Conjunto de Mandelbrot", 6, 11},
-    {3, "ÓRBITAS", "Órbitas", 4, 8},
-    {4, "RELAÇÃO MANDELBROT / JULIA", "Relação Mandel/Julia", 11, 22},
-    {5, "LUMERINA", "Lumerina", 1, 1},
-    {6, "INSTRUÇÕES", "Instruções", 1, 1},
-    {7, "MÉTODO DE NEWTON", "Método de Newton", 12, 23},
-    {8, "COMENTÁRIOS", "Comentários", 1, 1},
-    {9, "L-SISTEMAS", "L-Sistemas", 23, 53},
-    {10, "SISTEMAS DE FUNÇÃO ITERADA", "Sistemas de função iterada", 15, 33},
-    {11, "JOGO DO CAOS", "Jogo do caos", 16, 38},
-    {12, "TRANSFORMAÇÕES", "Transformações", 18, 40},
-    {13, "SUGESTÕES", "Sugestões", 1, 1},
-    {14, "SUCESSÕES", "Sucessões", 24, 58},
-    {15, "DIMENSÃO FRACTAL", "Dimensão fractal", 25, 69},
-    {16, "ATRACTORES", "Atractores", 19, 41},
+    {Form::Julia, "CONJUNTOS DE JULIA", "Conjuntos de Julia", 9, 18},
+    {Form::Mandelbrot, "CONJUNTO DE MANDELBROT", "Conjunto de Mandelbrot", 6, 11},
+    {Form::Orbitas, "ÓRBITAS", "Órbitas", 4, 8},
+    {Form::Relacao, "RELAÇÃO MANDELBROT / JULIA", "Relação Mandel/Julia", 11, 22},
+    {Form::Inicial, "LUMERINA", "Lumerina", 1, 1},
+    {Form::Instrucoes, "INSTRUÇÕES", "Instruções", 1, 1},
+    {Form::Newton, "MÉTODO DE NEWTON", "Método de Newton", 12, 23},
+    {Form::Comentarios, "COMENTÁRIOS", "Comentários", 1, 1},
+    {Form::LSistemas, "L-SISTEMAS", "L-Sistemas", 23, 53},
+    {Form::IFS, "SISTEMAS DE FUNÇÃO ITERADA", "Sistemas de função iterada", 15, 33},
+    {Form::JogoCaos, "JOGO DO CAOS", "Jogo do caos", 16, 38},
+    {Form::Transformacoes, "TRANSFORMAÇÕES", "Transformações", 18, 40},
+    {Form::Sugestoes, "SUGESTÕES", "Sugestões", 1, 1},
+    {Form::Sucessoes, "SUCESSÕES", "Sucessões", 24, 58},
+    {Form::Dimensao, "DIMENSÃO FRACTAL", "Dimensão fractal", 25, 69},
+    {Form::Atractores, "ATRACTORES", "Atractores", 19, 41},
 };
 
 std::array<QPointer<QWidget>, kNumeroPaginas + 1>& Instancias()
@@ -42,15 +42,15 @@ std::array<QPointer<QWidget>, kNumeroPaginas + 1>& Instancias()
 QWidget* Criar(int numero)
 {
     switch (numero) {
-    case 2:
-        return new PaginaMandelbrot(Descricao(2));
-    case 5:
-        return new PaginaInicial(Descricao(5));
-    case 6:
+    case Form::Mandelbrot:
+        return new PaginaMandelbrot(Descricao(numero));
+    case Form::Inicial:
+        return new PaginaInicial(Descricao(numero));
+    case Form::Instrucoes:
         return new PaginaInformacao(LivroInstrucoes(), PaginaInstrucoes);
-    case 8:
+    case Form::Comentarios:
         return new PaginaInformacao(LivroComentarios(), PaginaComentarios);
-    case 13:
+    case Form::Sugestoes:
         return new PaginaInformacao(LivroSugestoes(), 1);
     default:
         // Topic pages still waiting for their controls: their window, title and menu bar.
@@ -65,7 +65,7 @@ const DescricaoPagina& Descricao(int numero)
     for (const DescricaoPagina& d : kDescricoes)
         if (d.numero == numero)
             return d;
-    return kDescricoes[4];
+    return kDescricoes[Form::Inicial - 1];
 }
 
 QWidget* Pagina(int numero)

@@ -79,6 +79,14 @@ void ControloImagem::Refrescar()
     Agendar(persistente_.rect());
 }
 
+void ControloImagem::ReporCaneta()
+{
+    espessura_ = 1;
+    estilo_ = EstiloTraco::Continuo;
+    modo_ = ModoDesenho::Copiar;
+    persistenteLigado_ = true;
+}
+
 void ControloImagem::EscalaPixeis()
 {
     emPixeis_ = true;

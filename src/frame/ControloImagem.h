@@ -53,6 +53,8 @@ public:
     ModoDesenho Modo() const { return modo_; }
     void DefinirPersistente(bool ligado) { persistenteLigado_ = ligado; }
     bool Persistente() const { return persistenteLigado_; }
+    // The pen every drawing starts with: width 1, solid, copy mode, persistent drawing on.
+    void ReporCaneta();
     void DefinirCorFundo(QRgb cor) { corFundo_ = cor; }
     QRgb CorFundo() const { return corFundo_; }
 

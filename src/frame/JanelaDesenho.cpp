@@ -1,7 +1,9 @@
 #include "frame/JanelaDesenho.h"
 
 #include "frame/ControloImagem.h"
+#include "frame/Controlos.h"
 #include "frame/Plataforma.h"
+#include "frame/SessaoDesenho.h"
 #include "interp/LerValor.h"
 #include "interp/clsEquation.h"
 
@@ -82,48 +84,31 @@ JanelaDesenho::JanelaDesenho(QWidget* pagina, QWidget* area, QPoint origem, Opco
         connect(hscroll_, &QScrollBar::valueChanged, this, &JanelaDesenho::MudarLargura);
         connect(vscroll_, &QScrollBar::valueChanged, this, &JanelaDesenho::MudarAltura);
 
-        quadroDimensao_ = new QGroupBox(QStringLiteral("Dimensão da janela"), area);
-        quadroDimensao_->resize(300, 48);
-        auto* rotulo = new QLabel(QStringLiteral("Nº de pixeis:"), quadroDimensao_);
-        rotulo->setGeometry(12, 20, 90, 20);
-        labelDimensao_ = new QLabel(QStringLiteral("628 x 628"), quadroDimensao_);
-        labelDimensao_->setObjectName(QStringLiteral("LabelDimensãoJanela"));
-        labelDimensao_->setGeometry(105, 20, 120, 20);
+        quadroDimensao_ = Quadro(area, "Dimensão da janela", {0, 0, 300, 48});
+        Rotulo(quadroDimensao_, "Nº de pixeis:", {12, 20, 90, 20});
+        labelDimensao_ = Rotulo(quadroDimensao_, "628 x 628", {105, 20, 120, 20}, "LabelDimensãoJanela");
     }
 
     if (opcoes.limites) {
-        quadroArea_ = new QGroupBox(QStringLiteral("Área de desenho"), area);
-        quadroArea_->resize(300, 80);
-        struct Campo { QLineEdit** edit; const char* nome; const char* rotulo; int x, y; };
-        const Campo campos[] = {
+        quadroArea_ = Quadro(area, "Área de desenho", {0, 0, 300, 80});
+        struct CampoLimite { QLineEdit** campo; const char* nome; const char* rotulo; int x, y; };
+        const CampoLimite campos[] = {
             {&xmin_, "Xmínimo", "Xmín", 10, 20}, {&xmax_, "Xmáximo", "Xmáx", 155, 20},
             {&ymin_, "Ymínimo", "Ymín", 10, 48}, {&ymax_, "Ymáximo", "Ymáx", 155, 48},
         };
-        for (const Campo& c : campos) {
-            auto* rotulo = new QLabel(QString::fromUtf8(c.rotulo), quadroArea_);
-            rotulo->setGeometry(c.x, c.y + 2, 36, 20);
-            *c.edit = new QLineEdit(quadroArea_);
-            (*c.edit)->setObjectName(QString::fromUtf8(c.nome));
-            (*c.edit)->setGeometry(c.x + 38, c.y, 95, 24);
+        for (const CampoLimite& c : campos) {
+            Rotulo(quadroArea_, c.rotulo, {c.x, c.y + 2, 36, 20});
+            *c.campo = Campo(quadroArea_, c.nome, "", {c.x + 38, c.y, 95, 24});
         }
     }
 
-    quadroOpcoes_ = new QGroupBox(QStringLiteral("Opções"), area);
-    quadroOpcoes_->resize(300, 60);
-    struct Botao { QPushButton** botao; const char* nome; const char* texto; const char* dica; };
-    const Botao botoes[] = {
-        {&guardar_, "GuardarGráfico", "Guardar", "Guardar como imagem .bmp o gráfico da função."},
-        {&copiar_, "CopiarGráfico", "Copiar", "Copiar o gráfico para outra aplicação."},
-        {&apagar_, "ApagarGráfico", "Apagar", "Apagar a janela de desenho."},
-    };
-    int x = 10;
-    for (const Botao& b : botoes) {
-        *b.botao = new QPushButton(QString::fromUtf8(b.texto), quadroOpcoes_);
-        (*b.botao)->setObjectName(QString::fromUtf8(b.nome));
-        (*b.botao)->setToolTip(QString::fromUtf8(b.dica));
-        (*b.botao)->setGeometry(x, 22, 68, 28);
-        x += 72;
-    }
+    quadroOpcoes_ = Quadro(area, "Opções", {0, 0, 300, 60});
+    guardar_ = Botao(quadroOpcoes_, "GuardarGráfico", "Guardar", {10, 22, 68, 28},
+                     "Guardar como imagem .bmp o gráfico da função.");
+    copiar_ = Botao(quadroOpcoes_, "CopiarGráfico", "Copiar", {82, 22, 68, 28},
+                    "Copiar o gráfico para outra aplicação.");
+    apagar_ = Botao(quadroOpcoes_, "ApagarGráfico", "Apagar", {154, 22, 68, 28},
+                    "Apagar a janela de desenho.");
     connect(guardar_, &QPushButton::clicked, this, &JanelaDesenho::GuardarGrafico);
     connect(copiar_, &QPushButton::clicked, this, &JanelaDesenho::CopiarGrafico);
     connect(apagar_, &QPushButton::clicked, this, &JanelaDesenho::ApagarGrafico);
@@ -182,38 +167,36 @@ bool JanelaDesenho::ValidarLimites(const QString& titulo, bool testarYmaximo)
     return true;
 }
 
-void JanelaDesenho::DesactivarBotoes()
+void JanelaDesenho::LigarDesenho(QPushButton* botao, std::function<void()> desenhar)
 {
-    for (QPushButton* b : botoesDesenho_)
-        b->setEnabled(false);
-    apagar_->setEnabled(false);
-    copiar_->setEnabled(false);
-    guardar_->setEnabled(false);
+    botoesDesenho_.push_back(botao);
+    lumerina::LigarDesenho(botao, std::move(desenhar));
 }
 
-void JanelaDesenho::ActivarBotoes()
+std::vector<QPushButton*> JanelaDesenho::BotoesDesactivados() const
 {
-    for (QPushButton* b : botoesDesenho_)
-        b->setEnabled(true);
-    apagar_->setEnabled(true);
-    copiar_->setEnabled(true);
-    guardar_->setEnabled(true);
+    std::vector<QPushButton*> botoes = botoesDesenho_;
+    botoes.insert(botoes.end(), {apagar_, copiar_, guardar_});
+    return botoes;
 }
 
-void JanelaDesenho::IniciarDesenho()
+void JanelaDesenho::PrepararDesenho()
 {
-    Sistema().CursorEspera(pagina_, true);
-    imagem_->DefinirPersistente(true);
-    DesactivarBotoes();
+    imagem_->Limpar();
+    desenhado = false;
+    imagem_->EscalaPixeis();
+    W_ = imagem_->LarguraEscala();
+    H_ = static_cast<int>(imagem_->AlturaEscala());
 }
 
-void JanelaDesenho::TerminarDesenho()
+bool JanelaDesenho::DesenharPorColunas(const ColunaCores& colorir,
+                                       const std::function<void()>& aposCeder)
 {
-    Sistema().CursorEspera(pagina_, false);
-    imagem_->MostrarPendente();
-    DefinirEscalaMundo();
-    desenhado = true;
-    ActivarBotoes();
+    SessaoDesenho sessao(*this);
+    if (!DesenharColunas(*imagem_, W_, H_, colorir, aposCeder))
+        return false;
+    sessao.Concluir();
+    return true;
 }
 
 void JanelaDesenho::DefinirEscalaMundo()
@@ -309,7 +292,9 @@ void JanelaDesenho::RatoLargado(Qt::MouseButton botao, double x, double y)
         ymin_->setText(TextoLimite(std::min(y0_, y)));
         ymax_->setText(TextoLimite(std::max(y0_, y)));
     }
+    // The box is done with its dotted invert pen; what is drawn next gets a plain one.
     imagem_->DefinirModo(ModoDesenho::Copiar);
+    imagem_->DefinirEstilo(EstiloTraco::Continuo);
 }
 
 }  // namespace lumerina

@@ -6,10 +6,13 @@
 // The page owns it and places its frames; the page's own draw buttons are registered so
 // that a drawing can disable and enable them with the others.
 
+#include "frame/DesenhoColunas.h"
+
 #include <QObject>
 #include <QPoint>
 #include <QString>
 
+#include <functional>
 #include <vector>
 
 class QGroupBox;
@@ -59,8 +62,13 @@ public:
     QPushButton* Copiar() const { return copiar_; }
     QPushButton* Apagar() const { return apagar_; }
 
-    // A draw button of the page, disabled and enabled with Guardar/Copiar/Apagar.
-    void RegistarBotaoDesenho(QPushButton* botao) { botoesDesenho_.push_back(botao); }
+    QWidget* Pagina() const { return pagina_; }
+
+    // A draw button of the page: a click (or Enter in a field) runs `desenhar` unless a
+    // drawing is running anywhere, and a drawing disables it with Guardar/Copiar/Apagar.
+    void LigarDesenho(QPushButton* botao, std::function<void()> desenhar);
+    // The buttons a drawing in this window disables.
+    std::vector<QPushButton*> BotoesDesactivados() const;
 
     // World rectangle. Ymax is held in single precision on purpose.
     double xmin = 0, xmax = 1, ymin = 0;
@@ -75,12 +83,19 @@ public:
     // failure is shown and false returned.
     bool ValidarLimites(const QString& titulo, bool testarYmaximo);
 
-    // Around a drawing: hourglass, persistent drawing, buttons off; and back. Terminar sets
-    // the world scale and the drawn flag.
-    void DesactivarBotoes();
-    void ActivarBotoes();
-    void IniciarDesenho();
-    void TerminarDesenho();
+    // What a draw button does before its checks: clears the picture, sets its scale to
+    // pixels and reads W and H. The drawn flag goes too: the cleared picture has no world
+    // for the zoom box to measure until a drawing completes.
+    void PrepararDesenho();
+    // The picture's inner width (floating, as the loops use it) and height in pixels, as
+    // PrepararDesenho read them.
+    double W() const { return W_; }
+    int H() const { return H_; }
+
+    // A whole escape-time drawing over W and H: the drawing session, the column loop
+    // (DesenharColunas) and, when it completes, the world scale and the drawn flag. False
+    // when the program ended during it.
+    bool DesenharPorColunas(const ColunaCores& colorir, const std::function<void()>& aposCeder = {});
     // Upper-left (Xmin, Ymax), lower-right (Xmax, Ymin): mouse positions become world points.
     void DefinirEscalaMundo();
 
@@ -116,6 +131,8 @@ private:
     QPushButton* copiar_ = nullptr;
     QPushButton* apagar_ = nullptr;
     std::vector<QPushButton*> botoesDesenho_;
+    double W_ = 628;
+    int H_ = 628;
 
     // Zoom rectangle: where the left button went down, and the corner last drawn.
     double x0_ = 0, y0_ = 0, x1_ = 0, y1_ = 0;

@@ -317,3 +317,39 @@ TEST_F(Mandelbrot, AbandonarAMeioDoDesenho)
 
 }  // namespace
 }  // namespace lumerina::teste
+
+namespace lumerina::teste {
+namespace {
+
+// The default drawing, pixel for pixel, against a picture kept from before the page was
+// rebuilt on the shared drawing frame.
+TEST_F(Mandelbrot, DesenhoPredefinidoIgualAoDeReferencia)
+{
+    Desenhar();
+    const QImage referencia(QStringLiteral(LUMERINA_DADOS_TESTE "/mandelbrot-predefinido.png"));
+    ASSERT_FALSE(referencia.isNull());
+    EXPECT_EQ(imagem->Imagem().convertToFormat(QImage::Format_RGB32),
+              referencia.convertToFormat(QImage::Format_RGB32));
+}
+
+// A refused drawing has already cleared the picture: the zoom box has no world to measure
+// there, exactly as after Apagar.
+TEST_F(Mandelbrot, DesenhoRecusadoNaoDeixaAmpliar)
+{
+    Lado(100);
+    Desenhar();
+    ASSERT_TRUE(janela->desenhado);
+    Texto("Xmínimo", "1/0");
+    Desenhar();
+    ASSERT_EQ(sistema->UltimoTexto(), "Divisão por zero.");
+    Rato(QEvent::MouseButtonPress, {50, 25}, Qt::LeftButton, Qt::LeftButton);
+    Rato(QEvent::MouseMove, {75, 75}, Qt::NoButton, Qt::LeftButton);
+    Rato(QEvent::MouseButtonRelease, {75, 75}, Qt::LeftButton, Qt::NoButton);
+    EXPECT_EQ(Achar<QLineEdit>(pagina, "Xmínimo")->text(), "1/0");
+    EXPECT_EQ(Achar<QLineEdit>(pagina, "Xmáximo")->text(), "0.6");
+    EXPECT_EQ(Achar<QLineEdit>(pagina, "Ymínimo")->text(), "-1.3");
+    EXPECT_EQ(Achar<QLineEdit>(pagina, "Ymáximo")->text(), "1.3");
+}
+
+}  // namespace
+}  // namespace lumerina::teste

@@ -2,6 +2,7 @@
 
 #include "frame/ControloImagem.h"
 #include "frame/JanelaDesenho.h"
+#include "frame/SessaoDesenho.h"
 #include "support/PlataformaGravadora.h"
 
 #include <QDir>
@@ -51,8 +52,7 @@ protected:
             for (int x = 0; x < imagem->LarguraPixeis(); ++x)
                 imagem->Linha(y)[x] = qRgb(x & 255, y & 255, 77);
         imagem->Sujar(imagem->Imagem().rect());
-        janela->IniciarDesenho();
-        janela->TerminarDesenho();
+        SessaoDesenho(*janela).Concluir();
     }
     void Rato(QEvent::Type tipo, QPoint pixel, Qt::MouseButton botao, Qt::MouseButtons botoes)
     {
