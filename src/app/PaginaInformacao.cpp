@@ -109,6 +109,11 @@ QImage DesenharPaginaInformacao(const QString& html, QSize tamanho, qreal escala
     return imagem;
 }
 
+namespace {
+// Enough to turn back and forth over a few pages without drawing them again.
+constexpr std::size_t kPaginasGuardadas = 3;
+}  // namespace
+
 PaginaInformacao::PaginaInformacao(const LivroInformacao& livro, int inicio, QWidget* pai)
     : QWidget(pai), livro_(livro)
 {
@@ -178,6 +183,12 @@ void PaginaInformacao::MostrarImagem(int indice)
         imagens_[i]->setPixmap(QPixmap::fromImage(pagina));
     }
     imagens_[i]->show();
+    std::erase(desenhadas_, indice);
+    desenhadas_.push_back(indice);
+    if (desenhadas_.size() > kPaginasGuardadas) {
+        imagens_[static_cast<std::size_t>(desenhadas_.front() - 1)]->clear();
+        desenhadas_.erase(desenhadas_.begin());
+    }
 }
 
 void PaginaInformacao::EsconderImagem(int indice)

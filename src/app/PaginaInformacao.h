@@ -56,6 +56,9 @@ private:
 
     const LivroInformacao& livro_;
     std::vector<QLabel*> imagens_;  // Image1(1..P) at [0..P-1]
+    // The pages that hold a picture, most recently shown last. A page's picture is a couple
+    // of megabytes (more at high density): only the last few shown are kept.
+    std::vector<int> desenhadas_;
     QToolButton* setaE_ = nullptr;
     QToolButton* setaD_ = nullptr;
     QLabel* label2_ = nullptr;

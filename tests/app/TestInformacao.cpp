@@ -103,6 +103,29 @@ TEST_F(Informacao, SetasNoPrimeiroENoUltimoPaginas)
     EXPECT_EQ(ImagemVisivel(comentarios), 73);
 }
 
+// A page picture is megabytes: reading the whole book keeps only the last few, and a page
+// turned back to is drawn again.
+TEST_F(Informacao, SoAsUltimasPaginasGuardamAImagem)
+{
+    PaginaInformacao* comentarios = Abrir(5, "Comentários", 8);
+    const auto desenhadas = [&] {
+        int n = 0;
+        for (QLabel* imagem : comentarios->findChildren<QLabel*>("Image1"))
+            n += !imagem->pixmap().isNull();
+        return n;
+    };
+    for (int k = 2; k <= 73; ++k)
+        Carregar(comentarios, "SetaD");
+    EXPECT_LE(desenhadas(), 3);
+    for (int k = 72; k >= 60; --k)
+        Carregar(comentarios, "SetaE");
+    EXPECT_LE(desenhadas(), 3);
+    for (QLabel* imagem : comentarios->findChildren<QLabel*>("Image1")) {
+        if (!imagem->isHidden())
+            EXPECT_FALSE(imagem->pixmap().isNull());
+    }
+}
+
 TEST_F(Informacao, FecharLibertaEAProximaAberturaRecomeca)
 {
     PaginaInformacao* instrucoes = Abrir(2, "Instruções", 6);
