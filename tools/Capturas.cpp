@@ -1,15 +1,18 @@
 // Pictures of the program made by the program itself, on the offscreen platform:
-//   lumerina_capturas docs            the main page and the Mandelbrot page after a drawing
+//   lumerina_capturas docs            the main page, the Mandelbrot page after a drawing,
+//                                     a comments page and the save dialog
 //   lumerina_capturas paginas PASTA   every information page, one PNG each
 // `make capturas` runs both.
 
 #include "app/Aplicacao.h"
 #include "app/PaginaInformacao.h"
 #include "app/Paginas.h"
+#include "frame/Plataforma.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -40,6 +43,14 @@ int Documentacao(const QString& pasta)
     // "Comentários" from the Mandelbrot page opens at its first page on the set.
     mandel->findChild<QAction*>("Comentários")->trigger();
     ok = Guardar(lumerina::Pagina(lumerina::Form::Comentarios), pasta + "/pagina-comentarios.png") && ok;
+    // Guardar's dialog, in European Portuguese like the rest of the program.
+    const auto dialogo = lumerina::CriarDialogoGuardar(mandel, QStringLiteral("Mapa de bits (*.bmp)|*.bmp"));
+    dialogo->setOption(QFileDialog::DontUseNativeDialog);
+    dialogo->setDirectory(QDir::tempPath());
+    dialogo->selectFile(QStringLiteral("mandelbrot.bmp"));
+    dialogo->resize(640, 400);
+    dialogo->show();
+    ok = Guardar(dialogo.get(), pasta + "/dialogo-guardar.png") && ok;
     return ok ? 0 : 1;
 }
 

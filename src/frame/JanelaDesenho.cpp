@@ -26,10 +26,21 @@ constexpr int kMinimoBarra = 20;   // smallest picture side the bars allow, in p
 const QString kFiltroBmp = QStringLiteral("Mapa de bits (*.bmp)|*.bmp");
 }  // namespace
 
+QString TextoParaInterpretar(QString texto)
+{
+    // What the help pages and a word processor write for minus, times and division; the
+    // interpreter would skip them as unknown characters ("−2" would read as 2).
+    texto.replace(QChar(0x2212), QLatin1Char('-'));
+    texto.replace(QChar(0x00D7), QLatin1Char('*'));
+    texto.replace(QChar(0x00B7), QLatin1Char('*'));
+    texto.replace(QChar(0x00F7), QLatin1Char('/'));
+    return texto;
+}
+
 double AvaliarLimite(const QString& texto)
 {
     clsEquation equacao;
-    equacao.Expression(texto.toStdString());
+    equacao.Expression(TextoParaInterpretar(texto).toStdString());
     equacao.SetVariable("x", 0);
     equacao.Evaluate();
     return equacao.Value();
