@@ -550,6 +550,8 @@ void clsEquation::Tokenise()
 
     valores_.assign(n, 0.0);
     estados_.assign(n, Estado::Vazio);
+    anterior_.assign(n, -1);
+    seguinte_.assign(n, n);
     nomesLigados_ = false;
     tokenizado_ = true;
 }
@@ -573,6 +575,12 @@ void clsEquation::Evaluate()
 
     std::copy(valoresIniciais_.begin(), valoresIniciais_.end(), valores_.begin());
     std::copy(estadosIniciais_.begin(), estadosIniciais_.end(), estados_.begin());
+    // No slot starts empty: every one is in the list.
+    for (int j = 0; j < n; ++j) {
+        anterior_[j] = j - 1;
+        seguinte_[j] = j + 1;
+    }
+    primeiro_ = n > 0 ? 0 : -1;
     for (const Origem& o : origens_) {
         switch (o.fonte) {
         case Fonte::Rnd:
@@ -595,9 +603,7 @@ void clsEquation::Evaluate()
 
     // Exactly one value must be left.
     int resultado = -1;
-    for (int j = 0; j < n; ++j) {
-        if (estados_[j] == Estado::Vazio)
-            continue;
+    for (int j = primeiro_; j >= 0; j = NextOperand(j)) {
         if (resultado >= 0 || estados_[j] != Estado::Valor)
             Invalido(TextoToken(j));
         resultado = j;
@@ -619,7 +625,7 @@ void clsEquation::Aplicar(int i)
         if (j < 0 || estados_[j] != Estado::Valor)
             ArgumentoInvalido(i);
         valores_[j] = -valores_[j];
-        estados_[i] = Estado::Vazio;
+        Esvaziar(i);
         return;
     }
 
@@ -641,8 +647,8 @@ void clsEquation::Aplicar(int i)
     default: ArgumentoInvalido(i);
     }
     valores_[a] = r;
-    estados_[i] = Estado::Vazio;
-    estados_[b] = Estado::Vazio;
+    Esvaziar(i);
+    Esvaziar(b);
 }
 
 // A plain group or a function call: the slots up to the matching ")" hold only values and the
@@ -662,7 +668,8 @@ void clsEquation::AplicarGrupo(int i)
     int partes = 1;
     int valoresDaParte = 0;
     bool certo = true;
-    for (int j = i + 1; j < k && certo; ++j) {
+    // The ")" at k is still in the list: nothing but this group empties it.
+    for (int j = NextOperand(i); j >= 0 && j < k && certo; j = NextOperand(j)) {
         switch (estados_[j]) {
         case Estado::Vazio:
             break;
@@ -689,28 +696,36 @@ void clsEquation::AplicarGrupo(int i)
         const double y = argumentos[1] >= 0 ? valores_[argumentos[1]] : 0.0;
         valores_[i] = Verificado(Calcular(f, valores_[argumentos[0]], y));
         estados_[i] = Estado::Valor;
-        std::fill(estados_.begin() + i + 1, estados_.begin() + k + 1, Estado::Vazio);
+        // The arguments, their commas and the ")": a few slots, each emptied once.
+        for (int j = NextOperand(i); j >= 0 && j <= k; j = NextOperand(i))
+            Esvaziar(j);
     } else {
-        estados_[i] = Estado::Vazio;   // the value stays where it is
-        estados_[k] = Estado::Vazio;
+        Esvaziar(i);   // the value stays where it is
+        Esvaziar(k);
     }
 }
 
+// The non-empty slots form a doubly linked list, so the nearest operand on either side of a
+// slot still in it is one step away, however many slots were emptied between.
 int clsEquation::NextOperand(int i) const
 {
-    const int n = static_cast<int>(estados_.size());
-    for (int j = i + 1; j < n; ++j)
-        if (estados_[j] != Estado::Vazio)
-            return j;
-    return -1;
+    const int j = seguinte_[i];
+    return j < static_cast<int>(seguinte_.size()) ? j : -1;
 }
 
-int clsEquation::PreviousOperand(int i) const
+int clsEquation::PreviousOperand(int i) const { return anterior_[i]; }
+
+void clsEquation::Esvaziar(int j)
 {
-    for (int j = i - 1; j >= 0; --j)
-        if (estados_[j] != Estado::Vazio)
-            return j;
-    return -1;
+    estados_[j] = Estado::Vazio;
+    const int a = anterior_[j];
+    const int s = seguinte_[j];
+    if (a >= 0)
+        seguinte_[a] = s;
+    else
+        primeiro_ = s < static_cast<int>(seguinte_.size()) ? s : -1;
+    if (s < static_cast<int>(anterior_.size()))
+        anterior_[s] = a;
 }
 
 void clsEquation::ArgumentoInvalido(int i) const { Invalido(TextoToken(i)); }

@@ -80,6 +80,12 @@ void DefinirRelogioAleatorio(std::uint64_t (*relogio)());
 //
 // Per point, SetVariable on an existing binding overwrites it in place and Value evaluates on
 // preallocated slots: no heap allocation once the expression is tokenised and its names bound.
+//
+// Cost in the number n of tokens: tokenising and ordering O(n log n) (a stable sort), once per
+// expression; each evaluation O(n). The non-empty slots are kept in a doubly linked list, so
+// an operator finds its operands in one step however many slots were emptied around it (a
+// flat "1+1+...+1" would otherwise walk back over all the consumed terms at every "+"), and a
+// group checks only the few slots still standing between its brackets.
 class clsEquation {
 public:
     void Switch(bool on);
@@ -122,8 +128,11 @@ private:
     void Tokenise();
     void Aplicar(int i);
     void AplicarGrupo(int i);
+    // The nearest non-empty slot after / before slot i, which must itself be non-empty; -1 if
+    // there is none.
     int NextOperand(int i) const;
     int PreviousOperand(int i) const;
+    void Esvaziar(int j);
     [[noreturn]] void ArgumentoInvalido(int i) const;
     std::string TextoToken(int i) const;
     int ProcurarVariavel(std::string_view nome) const;
@@ -142,6 +151,8 @@ private:
     std::vector<Estado> estadosIniciais_;
     std::vector<double> valores_;             // working slots
     std::vector<Estado> estados_;
+    std::vector<int> anterior_, seguinte_;    // the non-empty slots, linked in order
+    int primeiro_ = -1;
 
     bool tokenizado_ = true;
     bool desactualizado_ = false;
