@@ -24,9 +24,28 @@ const std::string kOrigem = "Interpretador";
 [[noreturn]] void DivisaoPorZero() { Falhar(11, "Divisão por zero."); }
 [[noreturn]] void ExcessoCapacidade() { Falhar(6, "Excesso de capacidade."); }
 [[noreturn]] void ArgumentoFuncao() { Falhar(5, "Argumento ou chamada de função inválida."); }
+// A token as a message quotes it: at most 40 characters, then "…". A field holds 32 767
+// characters, and a message box as long as a whole field helps no one.
+std::string Citacao(std::string_view token)
+{
+    constexpr int kMaximo = 40;
+    int caracteres = 0;
+    for (std::size_t i = 0; i < token.size(); ++i) {
+        const bool continuacao = (static_cast<unsigned char>(token[i]) & 0xC0) == 0x80;
+        if (!continuacao && ++caracteres > kMaximo)
+            return std::string(token.substr(0, i)) + "\u2026";
+    }
+    return std::string(token);
+}
+
 [[noreturn]] void Invalido(const std::string& texto)
 {
-    Falhar(1104, "Argumento inválido na expressão: " + texto);
+    Falhar(1104, "Argumento inválido na expressão: " + Citacao(texto));
+}
+
+[[noreturn]] void NaoDefinida(std::string_view nome)
+{
+    Falhar(1102, "Variável não definida: " + Citacao(nome));
 }
 
 }  // namespace
@@ -359,7 +378,7 @@ double clsEquation::GetVariable(std::string_view name) const
 {
     const int i = ProcurarVariavel(name);
     if (i < 0)
-        Falhar(1102, "Variável não definida: " + Minusculas(name));
+        NaoDefinida(Minusculas(name));
     return variaveis_[i].valor;
 }
 
@@ -588,7 +607,7 @@ void clsEquation::Evaluate()
             break;
         case Fonte::Variavel:
             if (o.variavel < 0)
-                Falhar(1102, "Variável não definida: " + tokens_[o.slot].texto);
+                NaoDefinida(tokens_[o.slot].texto);
             valores_[o.slot] = variaveis_[o.variavel].valor;
             break;
         case Fonte::NumeroInvalido:
@@ -659,7 +678,7 @@ void clsEquation::AplicarGrupo(int i)
     const bool funcao = t.tipo == Tipo::Funcao;
     const Funcao f = static_cast<Funcao>(t.funcao);
     if (funcao && f == FDesconhecida)
-        Falhar(1101, "Função não definida: " + t.texto + ")");
+        Falhar(1101, "Função não definida: " + Citacao(t.texto + ")"));
     const int k = t.par;
     if (k < 0)
         ArgumentoInvalido(i);

@@ -76,6 +76,7 @@ void DefinirRelogioAleatorio(std::uint64_t (*relogio)());
 // included, raises 11; 0^(-1) is an infinite power (6). "\", "%" and mod round both operands to
 // nearest (ties to even); an operand outside 32 bits, or -2147483648 \ -1, raises 6.
 // arcsec and arccosec are arccos(1/x) and arcsin(1/x).
+// A message quotes at most 40 characters of the offending token, then "…".
 // After any error the value keeps its last result and stays stale: the next Value evaluates again.
 //
 // Per point, SetVariable on an existing binding overwrites it in place and Value evaluates on

@@ -249,6 +249,80 @@ TEST(clsEquation, PrioridadesDe16Bits)
     }
 }
 
+std::string Repetir(std::string_view pedaco, int vezes)
+{
+    std::string r;
+    for (int i = 0; i < vezes; ++i)
+        r += pedaco;
+    return r;
+}
+
+// As long as a field allows (32 767 characters): the value still comes from the maths.
+TEST(clsEquation, ExpressoesDoTamanhoDeUmCampo)
+{
+    const struct {
+        std::string texto;
+        double esperado;
+    } casos[] = {
+        {"x" + Repetir("+1", 16383), 16383.5},                   // 32 767 characters
+        {"1" + Repetir("-1+1", 8191), 1},
+        {"x" + Repetir("*1", 16383), 0.5},
+        {Repetir("1+", 8000) + "2*x" + Repetir("+1", 8000), 16001},  // "*" amid the sum
+        {Repetir("abs(", 4000) + "-x" + std::string(4000, ')'), 0.5},
+        {Repetir("min(9,", 3000) + "x" + std::string(3000, ')'), 0.5},
+        {Repetir("(x-", 4000) + "1" + std::string(4000, ')'), 1},   // x-(x-1) = 1, 2000 times
+    };
+    for (const auto& c : casos) {
+        SCOPED_TRACE(c.texto.substr(0, 30));
+        clsEquation eq;
+        eq.Expression(c.texto);
+        eq.SetVariable("x", 0.5);
+        EXPECT_EQ(eq.Value(), c.esperado);
+        eq.SetVariable("x", 0.5);   // again, on the kept tokens
+        EXPECT_EQ(eq.Value(), c.esperado);
+    }
+}
+
+// A message quotes at most 40 characters of the token, then "…"; characters, not bytes.
+TEST(clsEquation, MensagensCitamNoMaximo40Caracteres)
+{
+    const std::string a40(40, 'a');
+    const std::string cedilhas = Repetir("\u00e7", 40);
+    const struct {
+        std::string texto;
+        int numero;
+        std::string descricao;
+    } casos[] = {
+        {a40, 1102, "Variável não definida: " + a40},
+        {a40 + "b", 1102, "Variável não definida: " + a40 + "\u2026"},
+        {"1+" + std::string(32765, 'a'), 1102, "Variável não definida: " + a40 + "\u2026"},
+        {std::string(38, 'f') + "(1)", 1101, "Função não definida: " + std::string(38, 'f') + "()"},
+        {std::string(39, 'f') + "(1)", 1101,
+         "Função não definida: " + std::string(39, 'f') + "(\u2026"},
+        {"2*1" + Repetir(".1", 30), 1104, "Argumento inválido na expressão: 1" +
+                                              Repetir(",1", 19) + ",\u2026"},
+    };
+    for (const auto& c : casos) {
+        SCOPED_TRACE(c.texto.substr(0, 50));
+        clsEquation eq;
+        eq.Expression(c.texto);
+        try {
+            eq.Evaluate();
+            ADD_FAILURE() << "no error, value " << eq.Value();
+        } catch (const ErroInterpretador& erro) {
+            EXPECT_EQ(erro.numero(), c.numero);
+            EXPECT_EQ(erro.what(), c.descricao);
+        }
+    }
+    // The caller's own name, asked for and not bound, is quoted the same way.
+    try {
+        clsEquation().GetVariable(Repetir("\u00c7", 41));
+        ADD_FAILURE();
+    } catch (const ErroInterpretador& erro) {
+        EXPECT_EQ(erro.what(), "Variável não definida: " + cedilhas + "\u2026");
+    }
+}
+
 TEST(clsEquation, NumerosForaDoAlcanceDeUmDouble)
 {
     EXPECT_EQ(Avaliar("0." + std::string(400, '0') + "1"), 0);
