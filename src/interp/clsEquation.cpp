@@ -2,10 +2,8 @@
 
 #include <algorithm>
 #include <charconv>
-#include <chrono>
 #include <climits>
 #include <cmath>
-#include <random>
 
 namespace lumerina {
 
@@ -56,47 +54,6 @@ ErroInterpretador::ErroInterpretador(int numero, const std::string& descricao)
 }
 
 const std::string& ErroInterpretador::origem() const { return kOrigem; }
-
-// ---------------------------------------------------------------------------------------------
-// The generator
-
-namespace {
-
-std::uint64_t RelogioSistema()
-{
-    return static_cast<std::uint64_t>(
-        std::chrono::system_clock::now().time_since_epoch().count());
-}
-
-std::mt19937& Gerador()
-{
-    static std::mt19937 gerador;
-    return gerador;
-}
-
-std::uint64_t (*relogioAleatorio)() = RelogioSistema;
-
-}  // namespace
-
-double Aleatorio()
-{
-    // 24 random bits: a single-precision number in [0, 1), exactly.
-    return static_cast<double>(Gerador()() >> 8) * 0x1p-24;
-}
-
-void SemearAleatorio(std::uint64_t semente)
-{
-    std::seed_seq sementes{static_cast<std::uint32_t>(semente),
-                           static_cast<std::uint32_t>(semente >> 32)};
-    Gerador().seed(sementes);
-}
-
-void SemearAleatorioDoRelogio() { SemearAleatorio(relogioAleatorio()); }
-
-void DefinirRelogioAleatorio(std::uint64_t (*relogio)())
-{
-    relogioAleatorio = relogio ? relogio : RelogioSistema;
-}
 
 // ---------------------------------------------------------------------------------------------
 // Checked arithmetic: every step of a formula raises the platform's error instead of going on
@@ -276,15 +233,9 @@ double Calcular(Funcao f, double x, double y)
     case FFix: return std::trunc(x);
     case FMant: return x - std::floor(x);
     case FSgn: return Sinal(x);
-    case FRnd:
-        SemearAleatorioDoRelogio();
-        return Aleatorio();
-    case FRand:
-        SemearAleatorioDoRelogio();
-        return Aleatorio() * x;
-    case FRandom:
-        SemearAleatorioDoRelogio();
-        return Soma(x, Produto(Aleatorio(), Diferenca(y, x)));
+    case FRnd: return Aleatorio();
+    case FRand: return Aleatorio() * x;
+    case FRandom: return Soma(x, Produto(Aleatorio(), Diferenca(y, x)));
     case FMin: return std::min(x, y);
     case FMax: return std::max(x, y);
     case FMod: return RestoInteiro(x, y);
@@ -582,6 +533,7 @@ void clsEquation::Evaluate()
 {
     if (!tokenizado_)
         Tokenise();
+    relogioMisturado_ = false;
 
     const int n = static_cast<int>(tokens_.size());
     if (!nomesLigados_ || geracaoNomes_ != geracaoVariaveis_) {
@@ -712,6 +664,10 @@ void clsEquation::AplicarGrupo(int i)
         ArgumentoInvalido(i);
 
     if (funcao) {
+        if ((f == FRnd || f == FRand || f == FRandom) && !relogioMisturado_) {
+            SemearAleatorioDoRelogio();
+            relogioMisturado_ = true;
+        }
         const double y = argumentos[1] >= 0 ? valores_[argumentos[1]] : 0.0;
         valores_[i] = Verificado(Calcular(f, valores_[argumentos[0]], y));
         estados_[i] = Estado::Valor;
