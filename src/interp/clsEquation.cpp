@@ -362,6 +362,9 @@ void clsEquation::Tokenise()
     tokens_.clear();
     ordem_.clear();
     origens_.clear();
+    // A token every two characters, as in "1+1+1": a long formula's tokens are moved at most
+    // a few times while the list grows.
+    tokens_.reserve(expressao_.size() / 2 + 16);
 
     int d = 0;
     bool operando = false;            // the last thing seen was an operand
