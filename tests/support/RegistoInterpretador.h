@@ -229,17 +229,31 @@ inline std::uint64_t RelogioContado()
     return 1000;
 }
 
+// Whether the letters r, n, d stand in this order in the text, whatever lies between (the
+// interpreter skips odd characters inside a name). Without them there is no "rnd", "rand" or
+// "random", and the generator cannot matter.
+inline bool PodeSerAleatoria(std::string_view texto)
+{
+    std::string_view falta = "rnd";
+    for (const char c : texto)
+        if (!falta.empty() && (c | 0x20) == falta.front())
+            falta.remove_prefix(1);
+    return falta.empty();
+}
+
 // Both evaluations of the protocol: x = 0.5 and y = -3; then, on the kept tokens, x = 2 and y
 // unbound. The generator starts from the same seed for each, so "rnd" is reproducible.
 inline std::pair<std::string, std::string> Avaliar(std::string_view texto)
 {
     DefinirRelogioAleatorio(RelogioContado);
+    const bool aleatoria = PodeSerAleatoria(texto);
     clsEquation eq;
     eq.Expression(texto);
     eq.SetVariable("x", 0.5);
     eq.SetVariable("y", -3);
     auto uma = [&] {
-        SemearAleatorio(4242);
+        if (aleatoria)
+            SemearAleatorio(4242);
         LeiturasDoRelogio() = 0;
         std::string r = Desfecho(eq);
         return LeiturasDoRelogio() ? std::string("~") : r;
