@@ -2,11 +2,14 @@
 //   lumerina_capturas docs            the main page, the Mandelbrot page after a drawing,
 //                                     a comments page and the save dialog
 //   lumerina_capturas paginas PASTA   every information page, one PNG each
-// `make capturas` runs both.
+//   lumerina_capturas sucessoes PASTA the sequences page: every example's construction and
+//                                     every sheet of its solution
+// `make capturas` runs all three.
 
 #include "app/Aplicacao.h"
 #include "app/PaginaInformacao.h"
 #include "app/Paginas.h"
+#include "dynamics/PaginaSucessoes.h"
 #include "frame/Plataforma.h"
 
 #include <QAction>
@@ -16,6 +19,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QToolButton>
 #include <QWidget>
 
 #include <cstdio>
@@ -51,6 +55,49 @@ int Documentacao(const QString& pasta)
     dialogo->resize(640, 400);
     dialogo->show();
     ok = Guardar(dialogo.get(), pasta + "/dialogo-guardar.png") && ok;
+    lumerina::Pagina(lumerina::Form::Comentarios)->hide();
+    // The sequences page: the Koch curve's construction, then the second sheet of its answer.
+    mandel->findChild<QAction*>("IrSucessões")->trigger();
+    QWidget* sucessoes = lumerina::Pagina(lumerina::Form::Sucessoes);
+    sucessoes->findChild<QRadioButton*>("Option3")->click();
+    ok = Guardar(sucessoes, pasta + "/pagina-sucessoes.png") && ok;
+    sucessoes->findChild<QPushButton*>("VerSolução")->click();
+    sucessoes->findChild<QToolButton*>("SetaD3")->click();
+    ok = Guardar(sucessoes, pasta + "/pagina-sucessoes-solucao.png") && ok;
+    return ok ? 0 : 1;
+}
+
+// Every example of the sequences page, and every sheet of its solution; a text set smaller
+// than the information pages' type, or cut, is reported.
+int Sucessoes(const QString& pasta)
+{
+    QDir().mkpath(pasta);
+    bool ok = true;
+    auto* pagina = static_cast<lumerina::PaginaSucessoes*>(lumerina::Pagina(lumerina::Form::Sucessoes));
+    pagina->show();
+    for (int k = 1; k <= 8; ++k) {
+        const lumerina::TextosExemplo& textos = lumerina::Textos(k);
+        std::vector<const char*> nomes{textos.construcao};
+        nomes.insert(nomes.end(), textos.solucao.begin(), textos.solucao.end());
+        for (const char* nome : nomes) {
+            qreal pontos = 0;
+            lumerina::DesenharPaginaInformacao(
+                lumerina::TextoSucessao(nome),
+                {lumerina::PaginaSucessoes::kLarguraTexto, lumerina::PaginaSucessoes::kAlturaTexto},
+                1.0, &pontos);
+            std::printf("%s: %s\n", nome,
+                        pontos == 0 ? "NÃO CABE" : qPrintable(QStringLiteral("letra %1").arg(pontos)));
+            ok = ok && pontos > 0;
+        }
+        pagina->EscolherExemplo(k);
+        ok = Guardar(pagina, QStringLiteral("%1/exemplo%2.png").arg(pasta).arg(k)) && ok;
+        pagina->VerSolucao();
+        for (std::size_t folha = 0; folha < textos.solucao.size(); ++folha) {
+            if (folha > 0)
+                pagina->SolucaoSeguinte(k);
+            ok = Guardar(pagina, QStringLiteral("%1/exemplo%2-solucao%3.png").arg(pasta).arg(k).arg(folha + 1)) && ok;
+        }
+    }
     return ok ? 0 : 1;
 }
 
@@ -94,8 +141,10 @@ int main(int argc, char* argv[])
         codigo = Documentacao(args[2]);
     else if (args.size() >= 3 && args[1] == "paginas")
         codigo = Paginas(args[2]);
+    else if (args.size() >= 3 && args[1] == "sucessoes")
+        codigo = Sucessoes(args[2]);
     else
-        std::fprintf(stderr, "uso: lumerina_capturas docs PASTA | paginas PASTA\n");
+        std::fprintf(stderr, "uso: lumerina_capturas docs PASTA | paginas PASTA | sucessoes PASTA\n");
     lumerina::FecharLumerina();
     return codigo;
 }

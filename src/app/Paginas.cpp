@@ -5,6 +5,7 @@
 #include "app/PaginaInformacao.h"
 #include "app/PaginaInicial.h"
 #include "complex/PaginaMandelbrot.h"
+#include "dynamics/PaginaSucessoes.h"
 
 #include <QPointer>
 
@@ -52,6 +53,8 @@ QWidget* Criar(int numero)
         return new PaginaInformacao(LivroComentarios(), PaginaComentarios);
     case Form::Sugestoes:
         return new PaginaInformacao(LivroSugestoes(), 1);
+    case Form::Sucessoes:
+        return new PaginaSucessoes(Descricao(numero));
     default:
         // Topic pages still waiting for their controls: their window, title and menu bar.
         return new PaginaBase(Descricao(numero));

@@ -1,0 +1,316 @@
+#include "app/FigurasInicio.h"
+
+#include "complex/TempoFuga.h"
+#include "frame/EsquemaCores.h"
+#include "geometric/Construcoes.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QPolygonF>
+
+#include <algorithm>
+#include <cmath>
+#include <complex>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace lumerina {
+
+namespace {
+
+const QColor kFundo(0x10, 0x24, 0x4a);
+const QColor kMoldura(0xf3, 0xc9, 0x69, 110);
+
+// A blank picture of `tamanho` device-independent pixels at the given ratio.
+QImage Tela(QSize tamanho, qreal escala)
+{
+    QImage imagem(tamanho * escala, QImage::Format_RGB32);
+    imagem.setDevicePixelRatio(escala);
+    imagem.fill(kFundo);
+    return imagem;
+}
+
+void Moldura(QImage& imagem)
+{
+    QPainter pintor(&imagem);
+    pintor.setPen(kMoldura);
+    const QSizeF t = imagem.deviceIndependentSize();
+    pintor.drawRect(QRectF(0.5, 0.5, t.width() - 1, t.height() - 1));
+}
+
+// World window [x0, x1] centred on y = yc, with the picture's own aspect.
+struct Janela {
+    double x0, x1, y0, y1;
+};
+
+Janela JanelaCentrada(const QImage& imagem, double x0, double x1, double yc)
+{
+    const double meia = (x1 - x0) * imagem.height() / imagem.width() / 2;
+    return {x0, x1, yc - meia, yc + meia};
+}
+
+// Escape-time style fill: colour(x, y) for the centre of every device pixel, row by row.
+template <class F>
+void PintarPixeis(QImage& imagem, const Janela& j, F&& cor)
+{
+    const int w = imagem.width(), h = imagem.height();
+    for (int y = 0; y < h; ++y) {
+        auto* linha = reinterpret_cast<QRgb*>(imagem.scanLine(y));
+        const double wy = j.y1 - (y + 0.5) * (j.y1 - j.y0) / h;
+        for (int x = 0; x < w; ++x)
+            linha[x] = cor(j.x0 + (x + 0.5) * (j.x1 - j.x0) / w, wy);
+    }
+}
+
+// Plots points given in world units, each as one device pixel blended towards `cor`.
+void PintarPontos(QImage& imagem, const Janela& j, const std::vector<QPointF>& pontos,
+                  QColor cor, double peso)
+{
+    const int w = imagem.width(), h = imagem.height();
+    for (const QPointF& p : pontos) {
+        const int x = int((p.x() - j.x0) / (j.x1 - j.x0) * w);
+        const int y = int((j.y1 - p.y()) / (j.y1 - j.y0) * h);
+        if (x < 0 || y < 0 || x >= w || y >= h)
+            continue;
+        QRgb& px = reinterpret_cast<QRgb*>(imagem.scanLine(y))[x];
+        const auto mistura = [&](int de, int para) { return int(de + (para - de) * peso); };
+        px = qRgb(mistura(qRed(px), cor.red()), mistura(qGreen(px), cor.green()),
+                  mistura(qBlue(px), cor.blue()));
+    }
+}
+
+}  // namespace
+
+QImage FiguraMandelbrot(QSize tamanho, qreal escala)
+{
+    QImage imagem = Tela(tamanho, escala);
+    const int w = imagem.width(), h = imagem.height();
+    const Janela j = JanelaCentrada(imagem, -2.45, 0.95, 0.0);
+    // The page's kernel: column i, row counter j from the bottom, steps over W − 1 and H − 1.
+    const VistaMundo vista{j.x0, j.x1, j.y0, float(j.y1), double(w), h};
+    const int N = 96;
+    EsquemaCores fogo;
+    PreencherFogo(fogo);
+    std::vector<int> contagens(std::size_t(h) + 1);
+    for (int i = 0; i < w; ++i) {
+        ColunaMandelbrot(VarianteMandel::Normal, vista, i, N, contagens.data());
+        for (int jj = 0; jj < h; ++jj) {
+            const int n = contagens[std::size_t(jj)];
+            reinterpret_cast<QRgb*>(imagem.scanLine(h - 1 - jj))[i] =
+                n == N ? qRgb(0x05, 0x08, 0x14) : CorEntrada(fogo, std::min(255, 2 * n));
+        }
+    }
+    Moldura(imagem);
+    return imagem;
+}
+
+QImage FiguraJulia(QSize tamanho, qreal escala)
+{
+    QImage imagem = Tela(tamanho, escala);
+    const Janela j = JanelaCentrada(imagem, -1.75, 1.75, 0.0);
+    EsquemaCores azul;
+    PreencherAzul(azul);
+    const double cx = -0.7269, cy = 0.1889;
+    const int N = 160;
+    PintarPixeis(imagem, j, [&](double x, double y) {
+        int n = 0;
+        while (x * x + y * y < 4 && n < N) {
+            const double t = x * x - y * y + cx;
+            y = 2 * x * y + cy;
+            x = t;
+            ++n;
+        }
+        return n == N ? qRgb(0, 0, 0) : CorEntrada(azul, 1 + n * 4 % 255);
+    });
+    Moldura(imagem);
+    return imagem;
+}
+
+QImage FiguraNewton(QSize tamanho, qreal escala)
+{
+    QImage imagem = Tela(tamanho, escala);
+    const Janela j = JanelaCentrada(imagem, -2.0, 2.0, 0.0);
+    // Basins of the roots of z³ − 1, darker the longer Newton's method takes.
+    const std::complex<double> raizes[3] = {{1, 0}, {-0.5, std::sqrt(3.0) / 2},
+                                            {-0.5, -std::sqrt(3.0) / 2}};
+    const QColor cores[3] = {QColor(0xe0, 0x4a, 0x3a), QColor(0x3f, 0xb9, 0x5c),
+                             QColor(0x3c, 0x7d, 0xe0)};
+    PintarPixeis(imagem, j, [&](double x, double y) {
+        std::complex<double> z(x, y);
+        for (int n = 0; n < 40; ++n) {
+            if (std::norm(z) < 1e-12)
+                break;
+            z -= (z * z * z - 1.0) / (3.0 * z * z);
+            for (int r = 0; r < 3; ++r)
+                if (std::norm(z - raizes[r]) < 1e-6) {
+                    const double luz = std::max(0.25, 1.0 - n / 14.0);
+                    const QColor& c = cores[r];
+                    return qRgb(int(c.red() * luz), int(c.green() * luz), int(c.blue() * luz));
+                }
+        }
+        return qRgb(0, 0, 0);
+    });
+    Moldura(imagem);
+    return imagem;
+}
+
+QImage FiguraFeto(QSize tamanho, qreal escala)
+{
+    QImage imagem = Tela(tamanho, escala);
+    // Barnsley's fern: x' = a·x + b·y + e, y' = c·x + d·y + f, map k with probability p.
+    struct Mapa { double a, b, c, d, e, f, p; };
+    const Mapa mapas[] = {{0, 0, 0, 0.16, 0, 0, 0.01},
+                          {0.85, 0.04, -0.04, 0.85, 0, 1.6, 0.85},
+                          {0.2, -0.26, 0.23, 0.22, 0, 1.6, 0.07},
+                          {-0.15, 0.28, 0.26, 0.24, 0, 0.44, 0.07}};
+    // Lying on its side, the fern fills the wide picture: x across, growing to the right.
+    const double altura = 10.4;
+    const Janela j = JanelaCentrada(imagem, -0.2, altura, 0.25);
+    std::minstd_rand gerador(1994);
+    std::uniform_real_distribution<double> uniforme(0.0, 1.0);
+    std::vector<QPointF> pontos;
+    const int total = int(14000 * escala * escala);
+    pontos.reserve(std::size_t(total));
+    double x = 0, y = 0;
+    for (int k = 0; k < total; ++k) {
+        double r = uniforme(gerador);
+        const Mapa* m = &mapas[3];
+        for (const Mapa& candidato : mapas) {
+            if (r < candidato.p) {
+                m = &candidato;
+                break;
+            }
+            r -= candidato.p;
+        }
+        const double nx = m->a * x + m->b * y + m->e;
+        y = m->c * x + m->d * y + m->f;
+        x = nx;
+        pontos.emplace_back(y, x);
+    }
+    PintarPontos(imagem, j, pontos, QColor(0x7c, 0xe0, 0x6a), 0.55);
+    Moldura(imagem);
+    return imagem;
+}
+
+QImage FiguraSierpinski(QSize tamanho, qreal escala)
+{
+    QImage imagem = Tela(tamanho, escala);
+    {
+        QPainter pintor(&imagem);
+        pintor.setRenderHint(QPainter::Antialiasing);
+        const QSizeF t = imagem.deviceIndependentSize();
+        const double margem = 6;
+        const double lado = std::min(t.width() - 2 * margem,
+                                     (t.height() - 2 * margem) * 2 / std::sqrt(3.0));
+        const QPointF origem((t.width() - lado) / 2, t.height() - margem);
+        pintor.setPen(Qt::NoPen);
+        pintor.setBrush(QColor(0xf3, 0xc9, 0x69));
+        for (const Triangulo& tr : TrianguloSierpinski(5)) {
+            const auto p = [&](Ponto q) { return origem + QPointF(q.x * lado, -q.y * lado); };
+            pintor.drawPolygon(QPolygonF({p(tr.a), p(tr.b), p(tr.c)}));
+        }
+    }
+    Moldura(imagem);
+    return imagem;
+}
+
+QImage FiguraAtractor(QSize tamanho, qreal escala)
+{
+    QImage imagem = Tela(tamanho, escala);
+    // Lorenz's system (σ = 10, ρ = 28, β = 8/3) by fourth-order Runge-Kutta steps, seen
+    // along y: the two wings side by side.
+    struct Estado { double x, y, z; };
+    const auto derivada = [](const Estado& s) {
+        return Estado{10 * (s.y - s.x), s.x * (28 - s.z) - s.y, s.x * s.y - 8.0 / 3 * s.z};
+    };
+    const auto mais = [](const Estado& a, const Estado& b, double h) {
+        return Estado{a.x + h * b.x, a.y + h * b.y, a.z + h * b.z};
+    };
+    Estado s{1, 1, 20};
+    const double h = 0.006;
+    std::vector<QPointF> pontos;
+    for (int k = 0; k < 9000; ++k) {
+        const Estado k1 = derivada(s), k2 = derivada(mais(s, k1, h / 2)),
+                     k3 = derivada(mais(s, k2, h / 2)), k4 = derivada(mais(s, k3, h));
+        s = Estado{s.x + h / 6 * (k1.x + 2 * k2.x + 2 * k3.x + k4.x),
+                   s.y + h / 6 * (k1.y + 2 * k2.y + 2 * k3.y + k4.y),
+                   s.z + h / 6 * (k1.z + 2 * k2.z + 2 * k3.z + k4.z)};
+        if (k > 200)
+            pontos.emplace_back(s.x, s.z);
+    }
+    {
+        QPainter pintor(&imagem);
+        pintor.setRenderHint(QPainter::Antialiasing);
+        const QSizeF t = imagem.deviceIndependentSize();
+        // x in [−22, 22] and z in [2, 50] fill the height; the width is centred.
+        const double porUnidade = (t.height() - 8) / 48.0;
+        QTransform mundo;
+        mundo.translate(t.width() / 2, t.height() - 4 + 2 * porUnidade);
+        mundo.scale(porUnidade, -porUnidade);
+        pintor.setTransform(mundo);
+        QPen caneta(QColor(0xff, 0x9e, 0x5e, 150), 0);
+        pintor.setPen(caneta);
+        pintor.drawPolyline(pontos.data(), int(pontos.size()));
+    }
+    Moldura(imagem);
+    return imagem;
+}
+
+QImage FiguraPlanta(QSize tamanho, qreal escala)
+{
+    QImage imagem = Tela(tamanho, escala);
+    // The bracketed rewriting F -> FF-[-F+F+F]+[+F-F-F], three times, drawn by a turtle that
+    // turns 22.5° and draws a step for every F.
+    std::string cadeia = "F";
+    for (int n = 0; n < 3; ++n) {
+        std::string seguinte;
+        for (char c : cadeia)
+            seguinte += c == 'F' ? std::string("FF-[-F+F+F]+[+F-F-F]") : std::string(1, c);
+        cadeia = std::move(seguinte);
+    }
+    const double angulo = 22.5 * M_PI / 180;
+    struct Tartaruga { double x, y, direccao; };
+    Tartaruga t{0, 0, M_PI / 2};
+    std::vector<Tartaruga> pilha;
+    std::vector<QLineF> tracos;
+    for (char c : cadeia) {
+        if (c == 'F') {
+            const Tartaruga antes = t;
+            t.x += std::cos(t.direccao);
+            t.y += std::sin(t.direccao);
+            tracos.emplace_back(antes.x, -antes.y, t.x, -t.y);
+        } else if (c == '+') {
+            t.direccao += angulo;
+        } else if (c == '-') {
+            t.direccao -= angulo;
+        } else if (c == '[') {
+            pilha.push_back(t);
+        } else if (c == ']' && !pilha.empty()) {
+            t = pilha.back();
+            pilha.pop_back();
+        }
+    }
+    QRectF caixa;
+    for (const QLineF& l : tracos)
+        caixa |= QRectF(l.p1(), l.p2()).normalized();
+    {
+        QPainter pintor(&imagem);
+        pintor.setRenderHint(QPainter::Antialiasing);
+        const QSizeF tela = imagem.deviceIndependentSize();
+        const double margem = 5;
+        const double porUnidade = std::min((tela.width() - 2 * margem) / caixa.width(),
+                                           (tela.height() - 2 * margem) / caixa.height());
+        QTransform mundo;
+        mundo.translate(tela.width() / 2, tela.height() - margem);
+        mundo.scale(porUnidade, porUnidade);
+        mundo.translate(-caixa.center().x(), -caixa.bottom());
+        pintor.setTransform(mundo);
+        pintor.setPen(QPen(QColor(0x9c, 0xd8, 0x6b), 0));
+        pintor.drawLines(tracos.data(), int(tracos.size()));
+    }
+    Moldura(imagem);
+    return imagem;
+}
+
+}  // namespace lumerina
