@@ -2,6 +2,7 @@
 
 #include "app/PaginaInformacao.h"
 #include "frame/ControloImagem.h"
+#include "frame/Controlos.h"
 #include "frame/EsquemaCores.h"
 #include "geometric/Construcoes.h"
 
@@ -239,35 +240,32 @@ PaginaSucessoes::PaginaSucessoes(const DescricaoPagina& descricao, QWidget* pai)
     imagem_->setObjectName(QStringLiteral("Picture1"));
     imagem_->move(8, 8);
 
-    auto* exemplos = new QGroupBox(QStringLiteral("Exemplos"), area);
-    exemplos->setObjectName(QStringLiteral("Exemplos"));
-    exemplos->setGeometry(8, 8 + kLadoImagem + 6, kLadoImagem + 4, 664 - kLadoImagem - 14);
-    // Examples 1 and 2 have long captions and take a row each; 3 to 8 go two to a row.
+    QGroupBox* exemplos =
+        Quadro(area, "Exemplos", {8, kLadoImagem + 14, kLadoImagem + 4, 166}, "Exemplos");
+    // Examples 1 and 2 have long captions and take a row each; 3 to 8 go two to a row, each
+    // with its number beside it.
     for (int k = 1; k <= 8; ++k) {
         const int linha = k <= 2 ? k - 1 : 2 + (k - 3) / 2;
         const int coluna = k <= 2 ? 0 : (k - 3) % 2;
         const int x = 10 + coluna * 240, y = 22 + linha * 27;
-        auto* numero = new QLabel(QString::number(k), exemplos);
-        numero->setObjectName(QStringLiteral("LabelExemplo%1").arg(k));
-        numero->setGeometry(x, y, 16, 22);
-        auto* opcao = new QRadioButton(QString::fromUtf8(kOpcoes[k].legenda), exemplos);
-        opcao->setObjectName(QString::fromUtf8(kOpcoes[k].controlo));
-        opcao->setGeometry(x + 18, y, k <= 2 ? 450 : 214, 22);
-        connect(opcao, &QRadioButton::clicked, this, [this, k] { EscolherExemplo(k); });
-        opcoes_[static_cast<std::size_t>(k)] = opcao;
+        Rotulo(exemplos, QByteArray::number(k).constData(), {x, y, 16, 22},
+               QStringLiteral("LabelExemplo%1").arg(k).toUtf8().constData());
+        QRadioButton* opcao = exemplos_.Adicionar(
+            Opcao(exemplos, kOpcoes[k].controlo, kOpcoes[k].legenda,
+                  {x + 18, y, k <= 2 ? 450 : 214, 22}),
+            k);
+        // Every click draws, the checked option's included: after Apagar it draws it again.
+        connect(opcao, &QRadioButton::clicked, this, [this] { EscolherExemplo(exemplos_.Valor()); });
     }
 
     ConstruirPaineis(area);
 
-    auto* verSolucao = new QPushButton(QStringLiteral("Ver solução"), area);
-    verSolucao->setObjectName(QStringLiteral("VerSolução"));
-    verSolucao->setGeometry(kColunaX, kPainelY + kPainelAltura + 10, 120, 32);
-    connect(verSolucao, &QPushButton::clicked, this, &PaginaSucessoes::VerSolucao);
-    auto* apagar = new QPushButton(QStringLiteral("Apagar"), area);
-    apagar->setObjectName(QStringLiteral("Apagar"));
-    apagar->setToolTip(QStringLiteral("Apagar a janela de desenho."));
-    apagar->setGeometry(kColunaX + 130, kPainelY + kPainelAltura + 10, 120, 32);
-    connect(apagar, &QPushButton::clicked, this, &PaginaSucessoes::Apagar);
+    const int y = kPainelY + kPainelAltura + 10;
+    connect(Botao(area, "VerSolução", "Ver solução", {kColunaX, y, 120, 32}),
+            &QPushButton::clicked, this, &PaginaSucessoes::VerSolucao);
+    connect(Botao(area, "Apagar", "Apagar", {kColunaX + 130, y, 120, 32},
+                  "Apagar a janela de desenho."),
+            &QPushButton::clicked, this, &PaginaSucessoes::Apagar);
 }
 
 void PaginaSucessoes::ConstruirPaineis(QWidget* area)
@@ -285,20 +283,17 @@ void PaginaSucessoes::ConstruirPaineis(QWidget* area)
         Painel& p = paineis_[static_cast<std::size_t>(k)];
         const TextosExemplo& textos = Textos(k);
 
-        p.construcao = new QGroupBox(QStringLiteral("Modo de construção (exemplo %1)").arg(k), area);
-        p.construcao->setObjectName(QStringLiteral("Construção1"));
+        p.construcao = Quadro(area, QStringLiteral("Modo de construção (exemplo %1)").arg(k).toUtf8().constData(),
+                              geometria, "Construção1");
         p.construcao->setProperty("Index", k);
-        p.construcao->setGeometry(geometria);
         p.construcao->hide();
         p.imagemConstrucao = criarImagem(p.construcao, textos.construcao);
 
         // The first caption is written without a blank before its number, and ends in one.
-        p.solucao = new QGroupBox(k == 1 ? QStringLiteral("Solução do exemplo1 ")
-                                         : QStringLiteral("Solução do exemplo %1").arg(k),
-                                  area);
-        p.solucao->setObjectName(QStringLiteral("Solução1"));
+        const QByteArray legenda = k == 1 ? QByteArray("Solução do exemplo1 ")
+                                          : "Solução do exemplo " + QByteArray::number(k);
+        p.solucao = Quadro(area, legenda.constData(), geometria, "Solução1");
         p.solucao->setProperty("Index", k);
-        p.solucao->setGeometry(geometria);
         p.solucao->hide();
         for (const char* nome : textos.solucao)
             p.imagensSolucao.push_back(criarImagem(p.solucao, nome));
@@ -322,6 +317,14 @@ void PaginaSucessoes::ConstruirPaineis(QWidget* area)
     }
 }
 
+void PaginaSucessoes::EsconderImagem(QLabel* imagem)
+{
+    // A text picture is about a megabyte (four at double density): only the one shown keeps
+    // it, and the next showing renders it again.
+    imagem->hide();
+    imagem->setPixmap(QPixmap());
+}
+
 void PaginaSucessoes::MostrarImagem(QLabel* imagem)
 {
     if (imagem->pixmap().isNull()) {  // rendered the first time it is shown
@@ -335,10 +338,14 @@ void PaginaSucessoes::MostrarImagem(QLabel* imagem)
     imagem->show();
 }
 
+int PaginaSucessoes::ExemploActual() const
+{
+    return exemplos_.Valor();
+}
+
 void PaginaSucessoes::EscolherExemplo(int exemplo)
 {
     Apagar();
-    exemplo_ = exemplo;
     Painel& p = paineis_[static_cast<std::size_t>(exemplo)];
     p.construcao->show();
     MostrarImagem(p.imagemConstrucao);
@@ -350,10 +357,9 @@ void PaginaSucessoes::EscolherExemplo(int exemplo)
 
 void PaginaSucessoes::VerSolucao()
 {
-    if (exemplo_ == 0)
-        return;
-    Painel& p = paineis_[static_cast<std::size_t>(exemplo_)];
+    Painel& p = paineis_[static_cast<std::size_t>(exemplos_.Valor())];
     p.construcao->hide();
+    EsconderImagem(p.imagemConstrucao);
     p.solucao->show();
     MostrarFolha(p, 0);
 }
@@ -361,7 +367,7 @@ void PaginaSucessoes::VerSolucao()
 void PaginaSucessoes::MostrarFolha(Painel& p, int folha)
 {
     for (QLabel* imagem : p.imagensSolucao)
-        imagem->hide();
+        EsconderImagem(imagem);
     p.folha = folha;
     MostrarImagem(p.imagensSolucao[static_cast<std::size_t>(folha)]);
     if (p.setaE) {
@@ -391,10 +397,10 @@ void PaginaSucessoes::Apagar()
         if (!p.construcao)
             continue;
         p.construcao->hide();
-        p.imagemConstrucao->hide();
+        EsconderImagem(p.imagemConstrucao);
         p.solucao->hide();
         for (QLabel* imagem : p.imagensSolucao)
-            imagem->hide();
+            EsconderImagem(imagem);
     }
 }
 

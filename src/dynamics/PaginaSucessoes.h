@@ -5,6 +5,7 @@
 // arrows for examples 3, 7 and 8.
 
 #include "app/PaginaBase.h"
+#include "frame/Controlos.h"
 
 #include <QImage>
 #include <QString>
@@ -47,10 +48,11 @@ public:
     explicit PaginaSucessoes(const DescricaoPagina& descricao, QWidget* pai = nullptr);
 
     ControloImagem* Imagem() const { return imagem_; }
-    int ExemploActual() const { return exemplo_; }
+    // The example of the checked option of "Exemplos" (Option1, example 1, at first).
+    int ExemploActual() const;
 
     void EscolherExemplo(int exemplo);  // an option of "Exemplos"
-    void VerSolucao();                  // VerSolução
+    void VerSolucao();                  // VerSolução: the solution of the checked example
     void Apagar();                      // Apagar
     void SolucaoSeguinte(int exemplo);  // right arrow of a several-sheet solution
     void SolucaoAnterior(int exemplo);  // left arrow
@@ -69,11 +71,11 @@ private:
     void ConstruirPaineis(QWidget* area);
     void MostrarFolha(Painel& painel, int folha);
     static void MostrarImagem(QLabel* imagem);
+    static void EsconderImagem(QLabel* imagem);
 
     ControloImagem* imagem_ = nullptr;
-    std::array<QRadioButton*, 9> opcoes_{};     // by example number, [0] unused
-    std::array<Painel, 9> paineis_{};
-    int exemplo_ = 0;                           // 0: none chosen yet
+    GrupoOpcoes<int> exemplos_;                 // the options of "Exemplos", by example
+    std::array<Painel, 9> paineis_{};           // by example number, [0] unused
 };
 
 }  // namespace lumerina

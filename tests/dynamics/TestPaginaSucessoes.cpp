@@ -201,17 +201,24 @@ TEST_F(Sucessoes, ApagarEscondeTudoELimpaAImagem)
         for (QLabel* l : pagina->findChildren<QLabel*>()) {
             if (l->objectName().startsWith("Image")) {
                 EXPECT_TRUE(l->isHidden()) << qPrintable(l->objectName());
+                EXPECT_TRUE(l->pixmap().isNull()) << qPrintable(l->objectName()) << " kept";
             }
         }
         EXPECT_TRUE(branca()) << antes;
     }
 }
 
-TEST_F(Sucessoes, VerSolucaoSemExemploNaoMostraNada)
+// The solution shown is the checked example's, even after Apagar has hidden its construction;
+// at first that is example 1.
+TEST_F(Sucessoes, VerSolucaoDoExemploMarcado)
 {
     Clicar("VerSolução");
-    EXPECT_TRUE(Visiveis("Solução1").empty());
-    EXPECT_TRUE(ImagensVisiveis().empty());
+    EXPECT_EQ(Visiveis("Solução1"), std::vector<int>{1});
+    Clicar("Option8");
+    Clicar("Apagar");
+    Clicar("VerSolução");
+    EXPECT_EQ(Visiveis("Solução1"), std::vector<int>{5});
+    EXPECT_EQ(ImagensVisiveis(), std::vector<QString>{"ImageB5"});
 }
 
 // Every explanation and solution exists and fits its picture in a readable type: one sheet
