@@ -1,6 +1,7 @@
 // Pictures of the program made by the program itself, on the offscreen platform:
-//   lumerina_capturas docs            the main page, the Mandelbrot page after a drawing,
-//                                     a comments page and the save dialog
+//   lumerina_capturas docs PASTA      the main page, the Mandelbrot page after a drawing, a
+//                                     comments page, the save dialog, and the sequences page
+//                                     (a construction and a solution)
 //   lumerina_capturas paginas PASTA   every information page, one PNG each
 //   lumerina_capturas sucessoes PASTA the sequences page: every example's construction and
 //                                     every sheet of its solution
