@@ -283,8 +283,8 @@ void PaginaSucessoes::ConstruirPaineis(QWidget* area)
         Painel& p = paineis_[static_cast<std::size_t>(k)];
         const TextosExemplo& textos = Textos(k);
 
-        p.construcao = Quadro(area, QStringLiteral("Modo de construção (exemplo %1)").arg(k).toUtf8().constData(),
-                              geometria, "Construção1");
+        const QByteArray modo = "Modo de construção (exemplo " + QByteArray::number(k) + ")";
+        p.construcao = Quadro(area, modo.constData(), geometria, "Construção1");
         p.construcao->setProperty("Index", k);
         p.construcao->hide();
         p.imagemConstrucao = criarImagem(p.construcao, textos.construcao);
@@ -345,6 +345,8 @@ int PaginaSucessoes::ExemploActual() const
 
 void PaginaSucessoes::EscolherExemplo(int exemplo)
 {
+    if (exemplo < 1 || exemplo > 8)
+        return;
     Apagar();
     Painel& p = paineis_[static_cast<std::size_t>(exemplo)];
     p.construcao->show();
