@@ -347,6 +347,7 @@ void PaginaSucessoes::EscolherExemplo(int exemplo)
 {
     if (exemplo < 1 || exemplo > 8)
         return;
+    exemplos_.Marcar(exemplo);  // when called other than by a click, the option follows
     Apagar();
     Painel& p = paineis_[static_cast<std::size_t>(exemplo)];
     p.construcao->show();

@@ -219,6 +219,12 @@ TEST_F(Sucessoes, VerSolucaoDoExemploMarcado)
     Clicar("VerSolução");
     EXPECT_EQ(Visiveis("Solução1"), std::vector<int>{5});
     EXPECT_EQ(ImagensVisiveis(), std::vector<QString>{"ImageB5"});
+    // An example chosen without a click checks its option, so its solution is the one shown.
+    pagina->EscolherExemplo(7);
+    EXPECT_TRUE(Achar<QRadioButton>(pagina, "Option7")->isChecked());
+    Clicar("VerSolução");
+    EXPECT_TRUE(Visiveis("Construção1").empty());
+    EXPECT_EQ(Visiveis("Solução1"), std::vector<int>{7});
 }
 
 // Every explanation and solution exists and fits its picture in a readable type: one sheet
