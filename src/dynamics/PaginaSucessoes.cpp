@@ -113,7 +113,7 @@ void DesenharLinhas(QPainter& pintor, int exemplo, QSizeF tamanho)
             pintor.setPen(Qt::NoPen);
             pintor.setBrush(cor);
             for (const Segmento& s : PoeiraCantor(etapa))
-                pintor.drawRect(QRectF(x0 + s.a.x * largura, meio - 7, (s.b.x - s.a.x) * largura, 14));
+                pintor.drawRect(QRectF(x0 + s.a.x * largura, meio - 5, (s.b.x - s.a.x) * largura, 10));
             continue;
         }
         // Examples 1 and 2: the segment with a mark at each end of every part.
