@@ -176,23 +176,6 @@ TEST(Construcoes, QuadradosNaGrelhaECelulasDaRegra)
     }
 }
 
-// Haferman at stage 2: the white centre of stage 1 turns into nine blacks, and the black
-// middle of its bottom side into the cross pattern again.
-TEST(Construcoes, HafermanBrancoDaNoveNegros)
-{
-    std::set<std::pair<int, int>> pretos;
-    for (const Quadrado& q : CarpeteHaferman(2))
-        if (q.preto)
-            pretos.insert({int(std::lround(9 * q.x)), int(std::lround(9 * q.y))});
-    for (int i = 3; i < 6; ++i)
-        for (int j = 3; j < 6; ++j)
-            EXPECT_TRUE(pretos.count({i, j})) << i << "," << j;
-    // Cell (1, 0) of stage 1 covers columns 3..5, rows 0..2: blacks only mid-side.
-    for (int i = 3; i < 6; ++i)
-        for (int j = 0; j < 3; ++j)
-            EXPECT_EQ(pretos.count({i, j}) == 1, (i - 3 + j) % 2 == 1) << i << "," << j;
-}
-
 // The Koch curve: joined end to end from (0,0) to (1,0), equal segments of 3^-n, every
 // vertex of a stage kept in the next, bumps upwards under the height √3/6, and the area
 // between curve and base (√3/20)·(1 − (4/9)^n) by the shoelace formula.
