@@ -52,8 +52,8 @@ PaginaInicial::PaginaInicial(const DescricaoPagina& descricao, QWidget* pai)
     resolucao->setAlignment(Qt::AlignRight | Qt::AlignBottom);
     resolucao->setGeometry(kLargura - 260, kAltura - 34, 240, 22);
 
-    // The topics in two columns, each with a small picture of its own at its right, drawn
-    // now by the program's own kernels: Image2 to Image8, decorations without actions.
+    // The topics in two columns, each with a small picture of its topic at its right,
+    // computed now: Image2 to Image8, decorations without actions.
     using Figura = QImage (*)(QSize, qreal);
     struct Topico { const char* nome; const char* texto; int coluna, linha; Figura figura; };
     const Topico topicos[] = {
