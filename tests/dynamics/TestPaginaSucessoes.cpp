@@ -81,6 +81,9 @@ TEST_F(Sucessoes, CadaOpcaoMostraASuaConstrucao)
         EXPECT_EQ(Painel("Construção1", o.exemplo)->title(),
                   QStringLiteral("Modo de construção (exemplo %1)").arg(o.exemplo));
         EXPECT_FALSE(Achar<QLabel>(pagina, o.imagem)->pixmap().isNull()) << o.imagem;
+        // The stages drawn are that example's.
+        const QImage& desenho = pagina->Imagem()->Imagem();
+        EXPECT_TRUE(desenho == DesenharEtapas(o.exemplo, desenho.size())) << o.controlo;
     }
 }
 
