@@ -56,8 +56,9 @@ Rectangulo TracarSegmentos(const ImagemCrua& imagem, const Segmento* segmentos, 
         if (std::isnan(pa + pb + pc + pd))
             continue;
         // Only a segment that leaves the picture is cut, so lines inside keep their exact ends.
-        if (!(dentro(pa, pb) && dentro(pc, pd)) && !Recortar(pa, pb, pc, pd, w, h))
-            continue;
+        if (!(dentro(pa, pb) && dentro(pc, pd)) &&
+            (!Recortar(pa, pb, pc, pd, w, h) || std::isnan(pa + pb + pc + pd)))
+            continue;  // an infinite end leaves no direction to cut along
         int x = Arredondar(pa), y = Arredondar(pb);
         const int xf = Arredondar(pc), yf = Arredondar(pd);
         tocado.x1 = std::min({tocado.x1, x, xf});
