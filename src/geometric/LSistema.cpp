@@ -141,7 +141,13 @@ std::optional<double> LerNumeroEstrito(std::u16string_view texto)
 
 std::optional<std::int16_t> ArredondarInteiro16(double valor)
 {
-    const double r = std::nearbyint(valor);  // the default rounding: to nearest, ties to even
+    // Adding and taking away 1.5·2⁵² leaves no fraction bits: the sum is rounded by the
+    // processor's default rule, to nearest with ties to even (a library call to nearbyint costs
+    // more than the rest of a turtle step). Exact for |valor| < 2⁵¹; NaN fails the first test.
+    if (!(std::abs(valor) < 65536.0))
+        return std::nullopt;
+    constexpr double kDesvio = 6755399441055744.0;
+    const double r = (valor + kDesvio) - kDesvio;  // not folded: floating addition is not associative
     if (r >= -32768.0 && r <= 32767.0)
         return std::int16_t(r);
     return std::nullopt;
