@@ -2,12 +2,14 @@
 //   lumerina_capturas docs            the main page, the Mandelbrot page after a drawing,
 //                                     a comments page and the save dialog
 //   lumerina_capturas paginas PASTA   every information page, one PNG each
+//   lumerina_capturas lsistemas PASTA the L-systems page after each of its sixteen examples
 // `make capturas` runs both.
 
 #include "app/Aplicacao.h"
 #include "app/PaginaInformacao.h"
 #include "app/Paginas.h"
 #include "frame/Plataforma.h"
+#include "geometric/PaginaLSistemas.h"
 
 #include <QAction>
 #include <QApplication>
@@ -51,6 +53,26 @@ int Documentacao(const QString& pasta)
     dialogo->resize(640, 400);
     dialogo->show();
     ok = Guardar(dialogo.get(), pasta + "/dialogo-guardar.png") && ok;
+    // The quadratic Koch island, example "6".
+    QWidget* lsistemas = lumerina::Pagina(lumerina::Form::LSistemas);
+    lsistemas->show();
+    lsistemas->findChild<QRadioButton*>("Option6")->click();
+    lsistemas->findChild<QPushButton*>("Desenhar")->click();
+    ok = Guardar(lsistemas, pasta + "/pagina-lsistemas.png") && ok;
+    return ok ? 0 : 1;
+}
+
+int ExemplosLSistemas(const QString& pasta)
+{
+    QDir().mkpath(pasta);
+    QWidget* pagina = lumerina::Pagina(lumerina::Form::LSistemas);
+    pagina->show();
+    bool ok = true;
+    for (const auto& e : lumerina::PaginaLSistemas::kExemplos) {
+        pagina->findChild<QRadioButton*>(e.botao)->click();
+        pagina->findChild<QPushButton*>("Desenhar")->click();
+        ok = Guardar(pagina, QStringLiteral("%1/exemplo-%2.png").arg(pasta, e.legenda)) && ok;
+    }
     return ok ? 0 : 1;
 }
 
@@ -94,8 +116,10 @@ int main(int argc, char* argv[])
         codigo = Documentacao(args[2]);
     else if (args.size() >= 3 && args[1] == "paginas")
         codigo = Paginas(args[2]);
+    else if (args.size() >= 3 && args[1] == "lsistemas")
+        codigo = ExemplosLSistemas(args[2]);
     else
-        std::fprintf(stderr, "uso: lumerina_capturas docs PASTA | paginas PASTA\n");
+        std::fprintf(stderr, "uso: lumerina_capturas docs PASTA | paginas PASTA | lsistemas PASTA\n");
     lumerina::FecharLumerina();
     return codigo;
 }
