@@ -40,6 +40,19 @@ void SubstituirF(std::u16string& saida, std::u16string_view texto, std::u16strin
     saida.append(texto.substr(desde));
 }
 
+// Appends `parte` n times: once, then by doubling what is already there.
+void Repetir(std::u16string& saida, std::u16string_view parte, std::int64_t n)
+{
+    if (parte.empty() || n <= 0)
+        return;
+    const std::size_t inicio = saida.size(), total = parte.size() * std::size_t(n);
+    saida.append(parte);
+    while (saida.size() - inicio < total) {
+        const std::size_t feito = saida.size() - inicio;
+        saida.append(saida, inicio, std::min(feito, total - feito));
+    }
+}
+
 // E(n) for n ≥ 1: what one F becomes after n passes.
 std::u16string ExpansaoDeF(std::u16string_view regra, std::uint64_t fRegra, std::int64_t passes)
 {
@@ -52,11 +65,9 @@ std::u16string ExpansaoDeF(std::u16string_view regra, std::uint64_t fRegra, std:
         const std::u16string_view prefixo = regra.substr(0, f), sufixo = regra.substr(f + 1);
         std::u16string e;
         e.reserve(std::size_t(passes) * (regra.size() - 1) + 1);
-        for (std::int64_t k = 0; k < passes && !prefixo.empty(); ++k)
-            e.append(prefixo);
+        Repetir(e, prefixo, passes);
         e.push_back(u'F');
-        for (std::int64_t k = 0; k < passes && !sufixo.empty(); ++k)
-            e.append(sufixo);
+        Repetir(e, sufixo, passes);
         return e;
     }
     // Two F's or more: the length at least doubles a pass, so there are few passes (the caller
