@@ -1,13 +1,21 @@
 // Example "6" (the quadratic Koch island) at six passes: 784 327 characters, 470 596 segments.
-// The core's rewriting and turtle, each alone and together, against the plain loop of the same
-// work in the same run: std::string rewriting with find/replace, one pass per repeat, and a
-// turtle that works out its turn at every "+" and "-".
+// The page end to end (rewriting, Resultado, Label8, turtle, lines, on-screen progress) and the
+// core's parts one by one, against the plain loop of the same work in the same run:
+// std::string rewriting with find/replace, one pass per repeat, a turtle that works out its
+// turn at every "+" and "-", and one QPainter::drawLine per segment.
 
+#include "app/Aplicacao.h"
+#include "app/Paginas.h"
+#include "geometric/CaixaTextoLongo.h"
 #include "geometric/LSistema.h"
 #include "geometric/Tracado.h"
 
 #include <QImage>
+#include <QLineEdit>
 #include <QPainter>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
 
 #include <benchmark/benchmark.h>
 
@@ -18,6 +26,7 @@
 namespace {
 
 using namespace lumerina;
+using lumerina::Pagina;
 
 constexpr const char16_t* kAxioma = u"F-F-F-F";
 constexpr const char16_t* kRegra = u"FF-F-F-F-FF";
@@ -104,6 +113,65 @@ void TartarugaSimples(const std::string& p, double mais, double menos, double re
         }
     }
 }
+
+void LSistemaCicloSimplesComDrawLine(benchmark::State& estado)
+{
+    QImage imagem(628, 628, QImage::Format_RGB32);
+    for (auto _ : estado) {
+        imagem.fill(Qt::white);
+        const std::string p = ReescritaSimples("F-F-F-F", "FF-F-F-F-FF", kPasses);
+        QPainter q(&imagem);
+        q.setPen(QColor(0, 0, 255));
+        TartarugaSimples(p, -90, 90, 1, [&](double a, double b, double c, double d) {
+            q.drawLine(QLineF(a, b, c, d));
+        });
+        q.end();
+        benchmark::DoNotOptimize(imagem.bits());
+    }
+}
+BENCHMARK(LSistemaCicloSimplesComDrawLine)->Unit(benchmark::kMillisecond);
+
+void LSistemaPagina(benchmark::State& estado)
+{
+    QWidget* pagina = Pagina(Form::LSistemas);
+    pagina->show();
+    pagina->findChild<QRadioButton*>(QStringLiteral("Option6"))->click();
+    pagina->findChild<QLineEdit*>(QStringLiteral("Repete"))->setText(QStringLiteral("6"));
+    auto* desenhar = pagina->findChild<QPushButton*>(QStringLiteral("Desenhar"));
+    for (auto _ : estado)
+        desenhar->click();
+    FecharLumerina();
+}
+BENCHMARK(LSistemaPagina)->Unit(benchmark::kMillisecond);
+
+// Resultado taking the string and showing its first rows; a stock QPlainTextEdit taking
+// 112 000 characters, for scale.
+void LSistemaCaixaTexto(benchmark::State& estado)
+{
+    const std::u16string texto = Reescrever(kAxioma, kRegra, kPasses);
+    CaixaTextoLongo caixa;
+    caixa.resize(336, 146);
+    caixa.show();
+    for (auto _ : estado) {
+        caixa.DefinirTexto(texto);
+        caixa.viewport()->repaint();
+    }
+}
+BENCHMARK(LSistemaCaixaTexto)->Unit(benchmark::kMillisecond);
+
+void LSistemaQPlainTextEdit112k(benchmark::State& estado)
+{
+    const QString texto = QString::fromStdU16String(Reescrever(kAxioma, kRegra, kPasses)).left(112'000);
+    QPlainTextEdit caixa;
+    caixa.setReadOnly(true);
+    caixa.resize(336, 146);
+    caixa.show();
+    for (auto _ : estado) {
+        caixa.setPlainText(texto);
+        caixa.viewport()->repaint();
+    }
+}
+BENCHMARK(LSistemaQPlainTextEdit112k)->Unit(benchmark::kMillisecond);
 
 void LSistemaCicloSimples(benchmark::State& estado)
 {
