@@ -1,4 +1,4 @@
-// Example "6" (the quadratic Koch island) at six passes: 784 327 characters, 470 596 segments.
+// Example "6" (F-F-F-F, F -> FF-F-F-F-FF) at six passes: 784 327 characters, 470 596 segments.
 // The page end to end (rewriting, Resultado, Label8, turtle, lines, on-screen progress) and the
 // core's parts one by one, against the plain loop of the same work in the same run:
 // std::string rewriting with find/replace, one pass per repeat, a turtle that works out its

@@ -1,6 +1,7 @@
 // Pictures of the program made by the program itself, on the offscreen platform:
 //   lumerina_capturas docs            the main page, the Mandelbrot page after a drawing,
-//                                     a comments page and the save dialog
+//                                     a comments page, the save dialog and the L-systems
+//                                     page after a Koch island
 //   lumerina_capturas paginas PASTA   every information page, one PNG each
 //   lumerina_capturas lsistemas PASTA the L-systems page after each of its sixteen examples
 // `make capturas` runs both.
@@ -53,10 +54,10 @@ int Documentacao(const QString& pasta)
     dialogo->resize(640, 400);
     dialogo->show();
     ok = Guardar(dialogo.get(), pasta + "/dialogo-guardar.png") && ok;
-    // The quadratic Koch island, example "6".
+    // The quadratic Koch island, example "12".
     QWidget* lsistemas = lumerina::Pagina(lumerina::Form::LSistemas);
     lsistemas->show();
-    lsistemas->findChild<QRadioButton*>("Option6")->click();
+    lsistemas->findChild<QRadioButton*>("Option12")->click();
     lsistemas->findChild<QPushButton*>("Desenhar")->click();
     ok = Guardar(lsistemas, pasta + "/pagina-lsistemas.png") && ok;
     return ok ? 0 : 1;
