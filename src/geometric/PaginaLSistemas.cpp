@@ -91,6 +91,7 @@ PaginaLSistemas::PaginaLSistemas(const DescricaoPagina& descricao, QWidget* pai)
     letra.setPointSize(14);
     Titulo()->setFont(letra);
     Titulo()->setGeometry(kPainelX, 2, kPainelLargura, 28);
+    Titulo()->setObjectName(QStringLiteral("Label3"));
 
     JanelaDesenho::Opcoes opcoes;
     opcoes.limites = false;

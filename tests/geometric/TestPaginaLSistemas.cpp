@@ -112,6 +112,11 @@ TEST_F(LSistemas, CadaExemploPreencheOsCamposDoSeuBotao)
 
 TEST_F(LSistemas, AbreNoExemplo1EDesenhaAPlanta)
 {
+    // This page's names, the clear button's included (plain "Apagar" here).
+    for (const char* nome : {"Label3", "Label12", "Apagar", "CopiarGráfico", "GuardarGráfico",
+                             "Picture1"})
+        Achar(pagina, nome);
+    EXPECT_EQ(pagina->findChild<QWidget*>(QStringLiteral("ApagarGráfico")), nullptr);
     EXPECT_EQ(Campo("Substituição"), "F[+F]F[-F]F");
     Desenhar();
     EXPECT_EQ(Comprimento(), "1561");  // 1 + 10·(1 + 5 + 25 + 125)
