@@ -152,6 +152,7 @@ TEST_F(LSistemas, ResultadoComprimentoEPixeis)
         {"F xé", "F", "3", "F xé", 11, {100, 90}, {100, 89}, "foreign characters counted"},
         {"F-F", "", "1", "-", 0, {0, 0}, {100, 100}, "an empty rule removes every F"},
         {"F[+F]F", "F", "1", "F[+F]F", 31, {110, 90}, {100, 79}, "] brings the turtle back"},
+        {"", "FF", "3", "", 0, {0, 0}, {100, 100}, "an empty axiom: an empty result"},
     };
     for (const Caso& c : casos) {
         SCOPED_TRACE(c.porque);
@@ -164,6 +165,28 @@ TEST_F(LSistemas, ResultadoComprimentoEPixeis)
             EXPECT_TRUE(Azul(c.dentro.x(), c.dentro.y()));
         }
         EXPECT_FALSE(Azul(c.fora.x(), c.fora.y()));
+    }
+    EXPECT_TRUE(sistema->mensagens.empty());
+}
+
+// Steps and angles at the edge of the doubles: the position stops where an assignment would
+// overflow, steps turn infinite or not numbers, and the drawing goes on without a message.
+TEST_F(LSistemas, ValoresExtremosDesenhamSemRebentar)
+{
+    struct Caso { const char* campos[9]; };
+    const Caso casos[] = {
+        {{"F", "F+F", "6", "100", "100", "45", "-45", "1e308", "1"}},
+        {{"F", "FF", "5", "100", "100", "90", "-90", "-10", "1e308"}},
+        {{"F", "F+F", "5", "100", "100", "1e308", "-1e308", "-10", "1"}},
+        {{"F", "F[+F]F", "4", "32767", "-32768", "90", "-90", "-1e5", "-3"}},
+        {{"F", "F-F", "6", "99999", "abc", "30", "", "0.5", "0"}},
+        {{"[[[F", "]]]F]", "4", "600", "600", "-0", "-1e-320", "1e-320", "1e-300"}},
+    };
+    for (const Caso& c : casos) {
+        const char* const* v = c.campos;
+        Definir(v[0], v[1], v[2], v[3], v[4], v[5], v[6], v[7], v[8]);
+        Desenhar();
+        EXPECT_EQ(Comprimento().toULongLong(), resultado->Texto().size());
     }
     EXPECT_TRUE(sistema->mensagens.empty());
 }
