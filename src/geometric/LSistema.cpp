@@ -126,13 +126,16 @@ std::u16string_view AparaEspacos(std::u16string_view texto)
 std::optional<double> LerNumeroEstrito(std::u16string_view texto)
 {
     texto = AparaEspacos(texto);
-    // Only ASCII can make a number: narrow, refusing anything else.
+    // Only ASCII (and "−") can make a number: narrow, refusing anything else.
     std::string s;
     s.reserve(texto.size());
     for (const char16_t c : texto) {
-        if (c > 0x7F)
+        if (c == u'\u2212')  // the typographic minus, as the limit fields take it
+            s.push_back('-');
+        else if (c > 0x7F)
             return std::nullopt;
-        s.push_back(char(c));
+        else
+            s.push_back(char(c));
     }
     // from_chars takes no "+", no hexadecimal here, and no "inf"/"nan" once the first
     // character must be a digit or ".".

@@ -49,7 +49,8 @@ std::u16string Reescrever(std::u16string_view axioma, std::u16string_view regra,
 std::u16string_view AparaEspacos(std::u16string_view texto);
 
 // A field's text as a number, or nothing when the text is not one: blanks around, a sign,
-// digits with at most one ".", an optional exponent; the value must be finite.
+// digits with at most one ".", an optional exponent; the value must be finite. The typographic
+// minus "−" stands for "-".
 std::optional<double> LerNumeroEstrito(std::u16string_view texto);
 
 // A value as a 16-bit integer, rounded to the nearest, ties to even; nothing when the

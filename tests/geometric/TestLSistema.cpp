@@ -188,6 +188,7 @@ TEST(LSistema, LeituraEstritaDosCampos)
     const Caso casos[] = {
         {u"316", 316.0},    {u"  -25.7 ", -25.7}, {u"+3", 3.0},      {u"0.718", 0.718},
         {u".5", 0.5},       {u"5.", 5.0},         {u"1e3", 1000.0},  {u"2E-1", 0.2},
+        {u"\u221290", -90.0},
         {u"", std::nullopt},     {u"   ", std::nullopt},   {u"abc", std::nullopt},
         {u"12a", std::nullopt},  {u"1,5", std::nullopt},   {u"- 5", std::nullopt},
         {u"inf", std::nullopt},  {u"nan", std::nullopt},   {u"1e400", std::nullopt},
