@@ -130,7 +130,8 @@ std::size_t CaixaTextoLongo::PosicaoEm(QPoint ponto) const
 {
     const std::size_t colunas = std::size_t(ColunasPorLinha());
     const int y = std::max(0, ponto.y() - margem_);
-    const std::size_t linha = std::size_t(verticalScrollBar()->value()) + std::size_t(y / alturaLinha_);
+    const std::size_t linha =
+        std::size_t(verticalScrollBar()->value()) + std::size_t(y / alturaLinha_);
     const int x = std::max(0, ponto.x() - margem_ + larguraLetra_ / 2);
     const std::size_t coluna = std::min(colunas, std::size_t(x / larguraLetra_));
     return std::min(texto_.size(), linha * colunas + coluna);
@@ -209,7 +210,8 @@ void CaixaTextoLongo::keyPressEvent(QKeyEvent* evento)
 void CaixaTextoLongo::contextMenuEvent(QContextMenuEvent* evento)
 {
     QMenu menu(this);
-    QAction* copiar = menu.addAction(QStringLiteral("Copiar"), this, &CaixaTextoLongo::CopiarSeleccao);
+    QAction* copiar =
+        menu.addAction(QStringLiteral("Copiar"), this, &CaixaTextoLongo::CopiarSeleccao);
     copiar->setEnabled(ancora_ != cursor_);
     menu.addAction(QStringLiteral("Seleccionar tudo"), this, &CaixaTextoLongo::SeleccionarTudo);
     menu.exec(evento->globalPos());

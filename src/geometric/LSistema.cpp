@@ -161,7 +161,7 @@ std::optional<std::int16_t> ArredondarInteiro16(double valor)
     if (!(std::abs(valor) < 65536.0))
         return std::nullopt;
     constexpr double kDesvio = 6755399441055744.0;
-    const double r = (valor + kDesvio) - kDesvio;  // not folded: floating addition is not associative
+    const double r = (valor + kDesvio) - kDesvio;  // never folded: addition is not associative
     if (r >= -32768.0 && r <= 32767.0)
         return std::int16_t(r);
     return std::nullopt;

@@ -199,8 +199,8 @@ void PaginaLSistemas::Desenhar()
     resultado_->DefinirTexto(std::move(texto));
 
     // The fields are read once: nothing can change them while a drawing that never yields runs.
-    tartaruga_.Partida({ValorCampo(xbox_), ValorCampo(ybox_), ValorCampo(inicio_), ValorCampo(angPos_),
-                        ValorCampo(angNeg_), ValorCampo(reducao_)});
+    tartaruga_.Partida({ValorCampo(xbox_), ValorCampo(ybox_), ValorCampo(inicio_),
+                        ValorCampo(angPos_), ValorCampo(angNeg_), ValorCampo(reducao_)});
     Percorrer(resultado_->Texto());
     janela_->Imagem()->MostrarPendente();
 }
