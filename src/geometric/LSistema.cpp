@@ -197,6 +197,10 @@ std::size_t Tartaruga::Percorrer(std::u16string_view programa, std::size_t& posi
 {
     EstadoTartaruga t = estado_;
     std::size_t n = 0, i = posicao;
+    // Local copies, which the stores into `saida` cannot be taken to overwrite. No reduction is
+    // the same as a factor of 1: x·1 = x for every double, infinities and NaN included.
+    const Rotacao mais = mais_, menos = menos_;
+    const double reducao = reducao_.value_or(1.0);
     const auto rodar = [&t](const Rotacao& r) {
         if (!r.activa)
             return;
@@ -213,10 +217,8 @@ std::size_t Tartaruga::Percorrer(std::u16string_view programa, std::size_t& posi
                 t.x = *x;
             if (const auto y = ArredondarInteiro16(y2))
                 t.y = *y;
-            if (reducao_) {
-                t.dx = t.dx * *reducao_;
-                t.dy = t.dy * *reducao_;
-            }
+            t.dx = t.dx * reducao;
+            t.dy = t.dy * reducao;
             break;
         }
         case u'[':
@@ -231,8 +233,8 @@ std::size_t Tartaruga::Percorrer(std::u16string_view programa, std::size_t& posi
             if (profundidade_ < kCapacidadePilha)
                 t = pilha_[std::size_t(profundidade_)];
             break;
-        case u'+': rodar(mais_); break;
-        case u'-': rodar(menos_); break;
+        case u'+': rodar(mais); break;
+        case u'-': rodar(menos); break;
         default: break;
         }
     }
