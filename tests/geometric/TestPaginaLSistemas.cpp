@@ -118,7 +118,12 @@ TEST_F(LSistemas, AbreNoExemplo1EDesenhaAPlanta)
         Achar(pagina, nome);
     EXPECT_EQ(pagina->findChild<QWidget*>(QStringLiteral("ApagarGráfico")), nullptr);
     EXPECT_EQ(Campo("Substituição"), "F[+F]F[-F]F");
-    Desenhar();
+    // Enter in a field draws, as Desenhar does.
+    pagina->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(pagina));
+    auto* repete = Achar<QLineEdit>(pagina, "Repete");
+    repete->setFocus();
+    QTest::keyClick(repete, Qt::Key_Return);
     EXPECT_EQ(Comprimento(), "1561");  // 1 + 10·(1 + 5 + 25 + 125)
     EXPECT_EQ(resultado->Texto().size(), 1561u);
     EXPECT_EQ(resultado->TextoQt().left(12), "F[+F]F[-F]F[");
