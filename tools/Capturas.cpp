@@ -1,17 +1,20 @@
 // Pictures of the program made by the program itself, on the offscreen platform:
 //   lumerina_capturas docs PASTA      the main page, the Mandelbrot page after a drawing, a
-//                                     comments page, the save dialog, and the sequences page
-//                                     (a construction and a solution)
+//                                     comments page, the save dialog, the L-systems page
+//                                     after a Koch island, and the sequences page (a
+//                                     construction and a solution)
 //   lumerina_capturas paginas PASTA   every information page, one PNG each
+//   lumerina_capturas lsistemas PASTA the L-systems page after each of its sixteen examples
 //   lumerina_capturas sucessoes PASTA the sequences page: every example's construction and
 //                                     every sheet of its solution
-// `make capturas` runs all three.
+// `make capturas` runs docs, paginas and sucessoes.
 
 #include "app/Aplicacao.h"
 #include "app/PaginaInformacao.h"
 #include "app/Paginas.h"
 #include "dynamics/PaginaSucessoes.h"
 #include "frame/Plataforma.h"
+#include "geometric/PaginaLSistemas.h"
 
 #include <QAction>
 #include <QApplication>
@@ -56,6 +59,12 @@ int Documentacao(const QString& pasta)
     dialogo->resize(640, 400);
     dialogo->show();
     ok = Guardar(dialogo.get(), pasta + "/dialogo-guardar.png") && ok;
+    // The quadratic Koch island, example "12".
+    QWidget* lsistemas = lumerina::Pagina(lumerina::Form::LSistemas);
+    lsistemas->show();
+    lsistemas->findChild<QRadioButton*>("Option12")->click();
+    lsistemas->findChild<QPushButton*>("Desenhar")->click();
+    ok = Guardar(lsistemas, pasta + "/pagina-lsistemas.png") && ok;
     lumerina::Pagina(lumerina::Form::Comentarios)->hide();
     // The sequences page: the Koch curve's construction, then the second sheet of its answer.
     mandel->findChild<QAction*>("IrSucessões")->trigger();
@@ -102,6 +111,20 @@ int Sucessoes(const QString& pasta)
     return ok ? 0 : 1;
 }
 
+int ExemplosLSistemas(const QString& pasta)
+{
+    QDir().mkpath(pasta);
+    QWidget* pagina = lumerina::Pagina(lumerina::Form::LSistemas);
+    pagina->show();
+    bool ok = true;
+    for (const auto& e : lumerina::PaginaLSistemas::kExemplos) {
+        pagina->findChild<QRadioButton*>(e.botao)->click();
+        pagina->findChild<QPushButton*>("Desenhar")->click();
+        ok = Guardar(pagina, QStringLiteral("%1/exemplo-%2.png").arg(pasta, e.legenda)) && ok;
+    }
+    return ok ? 0 : 1;
+}
+
 int Paginas(const QString& pasta)
 {
     QDir().mkpath(pasta);
@@ -142,10 +165,13 @@ int main(int argc, char* argv[])
         codigo = Documentacao(args[2]);
     else if (args.size() >= 3 && args[1] == "paginas")
         codigo = Paginas(args[2]);
+    else if (args.size() >= 3 && args[1] == "lsistemas")
+        codigo = ExemplosLSistemas(args[2]);
     else if (args.size() >= 3 && args[1] == "sucessoes")
         codigo = Sucessoes(args[2]);
     else
-        std::fprintf(stderr, "uso: lumerina_capturas docs PASTA | paginas PASTA | sucessoes PASTA\n");
+        std::fprintf(stderr, "uso: lumerina_capturas docs PASTA | paginas PASTA | lsistemas PASTA"
+                             " | sucessoes PASTA\n");
     lumerina::FecharLumerina();
     return codigo;
 }

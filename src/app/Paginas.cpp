@@ -6,6 +6,7 @@
 #include "app/PaginaInicial.h"
 #include "complex/PaginaMandelbrot.h"
 #include "dynamics/PaginaSucessoes.h"
+#include "geometric/PaginaLSistemas.h"
 
 #include <QPointer>
 
@@ -45,6 +46,8 @@ QWidget* Criar(int numero)
     switch (numero) {
     case Form::Mandelbrot:
         return new PaginaMandelbrot(Descricao(numero));
+    case Form::LSistemas:
+        return new PaginaLSistemas(Descricao(numero));
     case Form::Inicial:
         return new PaginaInicial(Descricao(numero));
     case Form::Instrucoes:
