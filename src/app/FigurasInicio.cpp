@@ -3,6 +3,7 @@
 #include "complex/TempoFuga.h"
 #include "frame/EsquemaCores.h"
 #include "geometric/Construcoes.h"
+#include "geometric/LSistema.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -12,7 +13,6 @@
 #include <cmath>
 #include <complex>
 #include <random>
-#include <string>
 #include <vector>
 
 namespace lumerina {
@@ -260,40 +260,19 @@ QImage FiguraAtractor(QSize tamanho, qreal escala)
 QImage FiguraPlanta(QSize tamanho, qreal escala)
 {
     QImage imagem = Tela(tamanho, escala);
-    // The bracketed rewriting F -> FF-[-F+F+F]+[+F-F-F], three times, drawn by a turtle that
-    // turns 22.5° and draws a step for every F.
-    std::string cadeia = "F";
-    for (int n = 0; n < 3; ++n) {
-        std::string seguinte;
-        for (char c : cadeia)
-            seguinte += c == 'F' ? std::string("FF-[-F+F+F]+[+F-F-F]") : std::string(1, c);
-        cadeia = std::move(seguinte);
-    }
-    const double angulo = 22.5 * M_PI / 180;
-    struct Tartaruga { double x, y, direccao; };
-    Tartaruga t{0, 0, M_PI / 2};
-    std::vector<Tartaruga> pilha;
-    std::vector<QLineF> tracos;
-    for (char c : cadeia) {
-        if (c == 'F') {
-            const Tartaruga antes = t;
-            t.x += std::cos(t.direccao);
-            t.y += std::sin(t.direccao);
-            tracos.emplace_back(antes.x, -antes.y, t.x, -t.y);
-        } else if (c == '+') {
-            t.direccao += angulo;
-        } else if (c == '-') {
-            t.direccao -= angulo;
-        } else if (c == '[') {
-            pilha.push_back(t);
-        } else if (c == ']' && !pilha.empty()) {
-            t = pilha.back();
-            pilha.pop_back();
-        }
-    }
+    // The L-systems page's rewriting and turtle: F -> FF-[-F+F+F]+[+F-F-F] three times,
+    // turning 22.5° either way. The turtle takes long steps upwards (it rounds its position
+    // to whole units), and the plant is then scaled into the picture.
+    const std::u16string programa = Reescrever(u"F", u"FF-[-F+F+F]+[+F-F-F]", 3);
+    Tartaruga tartaruga;
+    tartaruga.Partida({.x = 0.0, .y = 0.0, .inicio = -200.0, .angPos = 22.5, .angNeg = -22.5,
+                       .reducao = 1.0});
+    std::vector<Segmento> tracos(std::size_t(std::count(programa.begin(), programa.end(), u'F')));
+    std::size_t posicao = 0;
+    tracos.resize(tartaruga.Percorrer(programa, posicao, tracos.data(), tracos.size()));
     QRectF caixa;
-    for (const QLineF& l : tracos)
-        caixa |= QRectF(l.p1(), l.p2()).normalized();
+    for (const Segmento& t : tracos)
+        caixa |= QRectF(QPointF(t.x1, t.y1), QPointF(t.x2, t.y2)).normalized();
     {
         QPainter pintor(&imagem);
         pintor.setRenderHint(QPainter::Antialiasing);
@@ -307,7 +286,8 @@ QImage FiguraPlanta(QSize tamanho, qreal escala)
         mundo.translate(-caixa.center().x(), -caixa.bottom());
         pintor.setTransform(mundo);
         pintor.setPen(QPen(QColor(0x9c, 0xd8, 0x6b), 0));
-        pintor.drawLines(tracos.data(), int(tracos.size()));
+        for (const Segmento& t : tracos)
+            pintor.drawLine(QLineF(t.x1, t.y1, t.x2, t.y2));
     }
     Moldura(imagem);
     return imagem;

@@ -3,9 +3,10 @@
 // each) at the screen's pixel ratio, so that they are crisp on any screen and nothing has to
 // be shipped. Each returns an image of `tamanho` device-independent pixels.
 //
-// The Mandelbrot set comes from the escape-time kernel of its page and Sierpinski's triangle
-// from the shared constructions; the Julia set, Newton's basins, the fern, the attractor and
-// the plant iterate their few lines of maths in their own function.
+// The Mandelbrot set comes from the escape-time kernel of its page, Sierpinski's triangle
+// from the shared constructions and the plant from the L-systems' rewriting and turtle; the
+// Julia set, Newton's basins, the fern and the attractor iterate their few lines of maths in
+// their own function.
 
 #include <QImage>
 #include <QSize>

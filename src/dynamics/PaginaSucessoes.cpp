@@ -112,8 +112,8 @@ void DesenharLinhas(QPainter& pintor, int exemplo, QSizeF tamanho)
         if (exemplo == 6) {
             pintor.setPen(Qt::NoPen);
             pintor.setBrush(cor);
-            for (const Segmento& s : PoeiraCantor(etapa))
-                pintor.drawRect(QRectF(x0 + s.a.x * largura, meio - 5, (s.b.x - s.a.x) * largura, 10));
+            for (const Intervalo& i : PoeiraCantor(etapa))
+                pintor.drawRect(QRectF(x0 + i.inicio * largura, meio - 5, (i.fim - i.inicio) * largura, 10));
             continue;
         }
         // Examples 1 and 2: the segment with a mark at each end of every part.
@@ -121,8 +121,8 @@ void DesenharLinhas(QPainter& pintor, int exemplo, QSizeF tamanho)
         pintor.setPen(QPen(cor, 3, Qt::SolidLine, Qt::FlatCap));
         pintor.drawLine(QPointF(x0, meio), QPointF(x0 + largura, meio));
         pintor.setPen(QPen(cor, 2, Qt::SolidLine, Qt::FlatCap));
-        for (const Segmento& s : DivisaoSegmento(partes)) {
-            const double x = x0 + s.a.x * largura;
+        for (const Intervalo& i : DivisaoSegmento(partes)) {
+            const double x = x0 + i.inicio * largura;
             pintor.drawLine(QPointF(x, meio - 10), QPointF(x, meio + 10));
         }
         pintor.drawLine(QPointF(x0 + largura, meio - 10), QPointF(x0 + largura, meio + 10));

@@ -38,12 +38,12 @@ std::vector<Quadrado> Substituir(int etapa, const RegraNove& regra)
 
 }  // namespace
 
-std::vector<Segmento> DivisaoSegmento(int partes)
+std::vector<Intervalo> DivisaoSegmento(int partes)
 {
-    std::vector<Segmento> segmentos;
+    std::vector<Intervalo> partesIguais;
     for (int k = 0; k < partes; ++k)
-        segmentos.push_back({{double(k) / partes, 0.0}, {double(k + 1) / partes, 0.0}});
-    return segmentos;
+        partesIguais.push_back({double(k) / partes, double(k + 1) / partes});
+    return partesIguais;
 }
 
 std::vector<Ponto> CurvaKoch(int etapa)
@@ -85,20 +85,20 @@ std::vector<Triangulo> TrianguloSierpinski(int etapa)
     return triangulos;
 }
 
-std::vector<Segmento> PoeiraCantor(int etapa)
+std::vector<Intervalo> PoeiraCantor(int etapa)
 {
-    std::vector<Segmento> segmentos{{{0.0, 0.0}, {1.0, 0.0}}};
+    std::vector<Intervalo> intervalos{{0.0, 1.0}};
     for (int n = 0; n < etapa; ++n) {
-        std::vector<Segmento> seguintes;
-        seguintes.reserve(2 * segmentos.size());
-        for (const Segmento& s : segmentos) {
-            const double terco = (s.b.x - s.a.x) / 3;
-            seguintes.push_back({s.a, {s.a.x + terco, 0.0}});
-            seguintes.push_back({{s.b.x - terco, 0.0}, s.b});
+        std::vector<Intervalo> seguintes;
+        seguintes.reserve(2 * intervalos.size());
+        for (const Intervalo& i : intervalos) {
+            const double terco = (i.fim - i.inicio) / 3;
+            seguintes.push_back({i.inicio, i.inicio + terco});
+            seguintes.push_back({i.fim - terco, i.fim});
         }
-        segmentos = std::move(seguintes);
+        intervalos = std::move(seguintes);
     }
-    return segmentos;
+    return intervalos;
 }
 
 std::vector<Quadrado> QuadradoFractal(int etapa)

@@ -23,8 +23,9 @@ struct Ponto {
     double x, y;
 };
 
-struct Segmento {
-    Ponto a, b;
+// A piece [inicio, fim] of the line segment [0, 1].
+struct Intervalo {
+    double inicio, fim;
 };
 
 struct Triangulo {
@@ -37,8 +38,8 @@ struct Quadrado {
     bool preto = true;  // Haferman's carpet has black and white squares; the others only black
 };
 
-// [0, 1] cut into `partes` equal segments, left to right (none when partes < 1).
-std::vector<Segmento> DivisaoSegmento(int partes);
+// [0, 1] cut into `partes` equal parts, left to right (none when partes < 1).
+std::vector<Intervalo> DivisaoSegmento(int partes);
 
 // The Koch curve from (0, 0) to (1, 0), bumps upwards: the 4^n + 1 vertices of stage n, in
 // order. Each segment's middle third is replaced by the two other sides of the equilateral
@@ -49,8 +50,8 @@ std::vector<Ponto> CurvaKoch(int etapa);
 // triangle keeps the three corner triangles of half its side and loses the middle one.
 std::vector<Triangulo> TrianguloSierpinski(int etapa);
 
-// The Cantor set on [0, 1]: each segment keeps its outer thirds.
-std::vector<Segmento> PoeiraCantor(int etapa);
+// The Cantor set on [0, 1]: each interval keeps its outer thirds.
+std::vector<Intervalo> PoeiraCantor(int etapa);
 
 // The 3 x 3 square constructions. Each square is cut into nine of a third of its side, and
 // - fractal square: the four corners and the centre are kept (they touch at their vertices);

@@ -19,11 +19,11 @@ const double kRaiz3 = std::sqrt(3.0);
 
 double Comprimento(Ponto p, Ponto q) { return std::hypot(q.x - p.x, q.y - p.y); }
 
-double Comprimento(const std::vector<Segmento>& segmentos)
+double Comprimento(const std::vector<Intervalo>& intervalos)
 {
     double total = 0;
-    for (const Segmento& s : segmentos)
-        total += Comprimento(s.a, s.b);
+    for (const Intervalo& i : intervalos)
+        total += i.fim - i.inicio;
     return total;
 }
 
@@ -245,20 +245,20 @@ TEST(Construcoes, SegmentosCantorEPartesIguais)
 {
     for (int n = 0; n <= 4; ++n) {
         const double escala = std::pow(3.0, n);
-        for (const Segmento& s : PoeiraCantor(n)) {
-            EXPECT_NEAR(s.b.x - s.a.x, 1 / escala, 1e-12);
-            long inteiro = std::lround(s.a.x * escala);
-            EXPECT_NEAR(s.a.x * escala, double(inteiro), 1e-9);
+        for (const Intervalo& i : PoeiraCantor(n)) {
+            EXPECT_NEAR(i.fim - i.inicio, 1 / escala, 1e-12);
+            long inteiro = std::lround(i.inicio * escala);
+            EXPECT_NEAR(i.inicio * escala, double(inteiro), 1e-9);
             for (int d = 0; d < n; ++d, inteiro /= 3)
-                EXPECT_NE(inteiro % 3, 1) << "left end " << s.a.x << " at stage " << n;
+                EXPECT_NE(inteiro % 3, 1) << "left end " << i.inicio << " at stage " << n;
         }
     }
     for (int partes : {1, 3, 7, 8}) {
         const auto s = DivisaoSegmento(partes);
-        EXPECT_EQ(s.front().a.x, 0.0);
-        EXPECT_EQ(s.back().b.x, 1.0);
+        EXPECT_EQ(s.front().inicio, 0.0);
+        EXPECT_EQ(s.back().fim, 1.0);
         for (std::size_t k = 0; k + 1 < s.size(); ++k)
-            EXPECT_EQ(s[k].b.x, s[k + 1].a.x) << partes;
+            EXPECT_EQ(s[k].fim, s[k + 1].inicio) << partes;
     }
 }
 
