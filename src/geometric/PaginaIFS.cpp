@@ -6,7 +6,7 @@
 #include "frame/Plataforma.h"
 #include "frame/SessaoDesenho.h"
 #include "geometric/SistemaIFS.h"
-#include "interp/clsEquation.h"
+#include "interp/Aleatorio.h"
 
 #include <QElapsedTimer>
 #include <QGroupBox>

@@ -6,7 +6,7 @@
 #include "frame/JanelaDesenho.h"
 #include "geometric/PaginaIFS.h"
 #include "geometric/SistemaIFS.h"
-#include "interp/clsEquation.h"
+#include "interp/Aleatorio.h"
 #include "support/PlataformaGravadora.h"
 
 #include <QGroupBox>
@@ -201,6 +201,19 @@ TEST_F(IFS, CorImagemNosPontosSeguintes)
         EXPECT_GT(certos, 1000) << (p.escolha ? p.escolha : "cancelled");
         EXPECT_EQ(outros, 0) << (p.escolha ? p.escolha : "cancelled");
     }
+}
+
+TEST_F(IFS, DuasVezesNoMesmoInstanteDesenhosDiferentes)
+{
+    // The clock stands still (a fixed millisecond): a drawing still reseeds into a state of
+    // its own, so the same system drawn twice lands on different pixels.
+    Iteracoes("400");
+    Premir("FetoBarnsley");
+    const QImage primeiro = imagem1->Imagem();
+    Premir("ApagarGráfico");
+    Premir("FetoBarnsley");
+    EXPECT_GT(Desenhados(), 200);
+    EXPECT_NE(imagem1->Imagem(), primeiro);
 }
 
 TEST_F(IFS, PaginasDeExemplos)

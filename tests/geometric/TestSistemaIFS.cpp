@@ -2,7 +2,7 @@
 // single-precision plotting, and every system's data and picture.
 
 #include "geometric/SistemaIFS.h"
-#include "interp/clsEquation.h"
+#include "interp/Aleatorio.h"
 
 #include <gtest/gtest.h>
 
