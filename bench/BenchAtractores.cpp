@@ -1,0 +1,66 @@
+// Peter de Jong at 10⁶ iterations: the plain loop (libm sines and cosines, one
+// QImage::setPixel per point) against the stepper's batches plotted into scan lines, in the
+// same run.
+
+#include "dynamics/Atractores.h"
+
+#include <QImage>
+
+#include <benchmark/benchmark.h>
+
+#include <cmath>
+#include <vector>
+
+namespace lumerina {
+namespace {
+
+constexpr int kIteracoes = 1'000'000;
+constexpr int kLado = 628;
+const QRgb kAzul = qRgb(0, 0, 128);
+
+// The window -3 … 3 on both axes, y upwards.
+int PixelX(double x) { return static_cast<int>(std::floor((x + 3) * (kLado / 6.0) + 0.5)); }
+int PixelY(double y) { return static_cast<int>(std::floor((y - 3) * (kLado / -6.0) + 0.5)); }
+
+void DeJongSimples(benchmark::State& estado)
+{
+    QImage imagem(kLado, kLado, QImage::Format_RGB32);
+    for (auto _ : estado) {
+        imagem.fill(Qt::white);
+        const double a = -0.52, b = -2.083, c = 0.718, d = -2.403;
+        double x = 0, y = 0;
+        for (int k = 0; k < kIteracoes; ++k) {
+            const double xn = std::sin(a * y) - std::cos(b * x);
+            y = std::sin(c * x) - std::cos(d * y);
+            x = xn;
+            const int px = PixelX(x), py = PixelY(y);
+            if (px >= 0 && px < kLado && py >= 0 && py < kLado)
+                imagem.setPixel(px, py, kAzul);
+        }
+        benchmark::DoNotOptimize(imagem.constBits());
+    }
+}
+BENCHMARK(DeJongSimples)->Unit(benchmark::kMillisecond);
+
+void DeJongEmLotes(benchmark::State& estado)
+{
+    QImage imagem(kLado, kLado, QImage::Format_RGB32);
+    std::vector<Ponto> lote(4096);
+    for (auto _ : estado) {
+        imagem.fill(Qt::white);
+        const Raster r{reinterpret_cast<std::uint32_t*>(imagem.bits()), imagem.bytesPerLine() / 4,
+                       kLado, kLado, -3, 3, kLado / 6.0, kLado / -6.0};
+        Atractor atractor = DeJong{};
+        for (int feitos = 0; feitos < kIteracoes;) {
+            const int n = std::min<int>(static_cast<int>(lote.size()), kIteracoes - feitos);
+            Pontos(atractor, lote.data(), n);
+            PlotarPontos(r, lote.data(), n, kAzul, 1);
+            feitos += n;
+        }
+        benchmark::DoNotOptimize(imagem.constBits());
+    }
+}
+BENCHMARK(DeJongEmLotes)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace lumerina
