@@ -62,5 +62,19 @@ void DeJongEmLotes(benchmark::State& estado)
 }
 BENCHMARK(DeJongEmLotes)->Unit(benchmark::kMillisecond);
 
+// The stepper alone, for the share of the plotting.
+void DeJongSoPassos(benchmark::State& estado)
+{
+    std::vector<Ponto> lote(4096);
+    for (auto _ : estado) {
+        Atractor atractor = DeJong{};
+        for (int feitos = 0; feitos < kIteracoes; feitos += 4096) {
+            Pontos(atractor, lote.data(), std::min(4096, kIteracoes - feitos));
+            benchmark::DoNotOptimize(lote.data());
+        }
+    }
+}
+BENCHMARK(DeJongSoPassos)->Unit(benchmark::kMillisecond);
+
 }  // namespace
 }  // namespace lumerina

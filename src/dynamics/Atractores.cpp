@@ -30,45 +30,55 @@ bool TemAvx2()
     return tem;
 }
 
-// The four sines of u0 … u3, in the order given.
-[[gnu::target("avx2")]] void Senos4Avx2(double u0, double u1, double u2, double u3, double* s)
-{
-    _mm256_storeu_pd(s, _ZGVdN4v_sin(_mm256_set_pd(u3, u2, u1, u0)));
-}
+// The maps whose step is
+//   (x', y') = (sin(l0·y), sin(l1·x)) + (m0, m1)·(sin(h0·x + π/2), sin(h1·y + π/2))
+// with the point held as one vector (x, y): the arguments are formed with the same products
+// and sums as the scalar formula, and the four sines come from one vector call.
+struct SenosDoPasso {
+    double l0, l1, h0, h1, m0, m1;
+};
 
-void Senos4Sse2(double u0, double u1, double u2, double u3, double* s)
+[[gnu::target("avx2")]] void CorrerAvx2(const SenosDoPasso& k, double& x, double& y, Ponto* saida,
+                                        int n)
 {
-    _mm_storeu_pd(s, _ZGVbN2v_sin(_mm_set_pd(u1, u0)));
-    _mm_storeu_pd(s + 2, _ZGVbN2v_sin(_mm_set_pd(u3, u2)));
-}
-
-// A run of steps of a map whose step needs sin p, sin q, cos r, cos w of the current point:
-// `argumentos(x, y, u)` writes the four arguments (cosines already shifted by π/2), and
-// `depois(x, y, s)` makes the next point from the four sines. The loop is instantiated for
-// each instruction set, so the vector call is inlined into it.
-template <class Senos, class Args, class Depois>
-[[gnu::always_inline]] inline void Correr(double& x, double& y, Ponto* saida, int n, Senos senos,
-                                          Args argumentos, Depois depois)
-{
-    for (int k = 0; k < n; ++k) {
-        double u[4], s[4];
-        argumentos(x, y, u);
-        senos(u[0], u[1], u[2], u[3], s);
-        depois(x, y, s);
-        saida[k] = {x, y};
+    const __m256d coef = _mm256_set_pd(k.h1, k.h0, k.l1, k.l0);
+    const __m256d desvio = _mm256_set_pd(kMeioPi, kMeioPi, 0.0, 0.0);
+    const __m128d m = _mm_set_pd(k.m1, k.m0);
+    __m128d xy = _mm_set_pd(y, x);
+    for (int i = 0; i < n; ++i) {
+        const __m128d yx = _mm_shuffle_pd(xy, xy, 1);
+        const __m256d u = _mm256_add_pd(_mm256_mul_pd(_mm256_set_m128d(xy, yx), coef), desvio);
+        const __m256d s = _ZGVdN4v_sin(u);
+        xy = _mm_add_pd(_mm256_castpd256_pd128(s), _mm_mul_pd(m, _mm256_extractf128_pd(s, 1)));
+        _mm_storeu_pd(&saida[i].x, xy);
     }
+    x = _mm_cvtsd_f64(xy);
+    y = _mm_cvtsd_f64(_mm_unpackhi_pd(xy, xy));
 }
 
-template <class Args, class Depois>
-[[gnu::target("avx2")]] void CorrerAvx2(double& x, double& y, Ponto* saida, int n, Args a, Depois d)
+void CorrerSse2(const SenosDoPasso& k, double& x, double& y, Ponto* saida, int n)
 {
-    Correr(x, y, saida, n, Senos4Avx2, a, d);
+    const __m128d l = _mm_set_pd(k.l1, k.l0), h = _mm_set_pd(k.h1, k.h0);
+    const __m128d desvio = _mm_set1_pd(kMeioPi);
+    const __m128d m = _mm_set_pd(k.m1, k.m0);
+    __m128d xy = _mm_set_pd(y, x);
+    for (int i = 0; i < n; ++i) {
+        const __m128d yx = _mm_shuffle_pd(xy, xy, 1);
+        const __m128d sl = _ZGVbN2v_sin(_mm_mul_pd(l, yx));
+        const __m128d sh = _ZGVbN2v_sin(_mm_add_pd(_mm_mul_pd(h, xy), desvio));
+        xy = _mm_add_pd(sl, _mm_mul_pd(m, sh));
+        _mm_storeu_pd(&saida[i].x, xy);
+    }
+    x = _mm_cvtsd_f64(xy);
+    y = _mm_cvtsd_f64(_mm_unpackhi_pd(xy, xy));
 }
 
-template <class Args, class Depois>
-void CorrerSse2(double& x, double& y, Ponto* saida, int n, Args a, Depois d)
+void Correr(const SenosDoPasso& k, double& x, double& y, Ponto* saida, int n)
 {
-    Correr(x, y, saida, n, Senos4Sse2, a, d);
+    if (TemAvx2())
+        CorrerAvx2(k, x, y, saida, n);
+    else
+        CorrerSse2(k, x, y, saida, n);
 }
 #endif
 
@@ -168,18 +178,8 @@ Ponto DeJong::Passo()
 void DeJong::Pontos(Ponto* saida, int n)
 {
 #ifdef LUMERINA_MVEC
-    const double A = a, B = b, C = c, D = d;
-    const auto argumentos = [=](double px, double py, double* u) {
-        u[0] = A * py, u[1] = C * px, u[2] = B * px + kMeioPi, u[3] = D * py + kMeioPi;
-    };
-    const auto depois = [](double& px, double& py, const double* s) {
-        px = s[0] - s[2];
-        py = s[1] - s[3];
-    };
-    if (TemAvx2())
-        CorrerAvx2(x, y, saida, n, argumentos, depois);
-    else
-        CorrerSse2(x, y, saida, n, argumentos, depois);
+    // x' = sin(A·y) − sin(B·x + π/2), y' = sin(C·x) − sin(D·y + π/2).
+    Correr({a, c, b, d, -1, -1}, x, y, saida, n);
 #else
     for (int k = 0; k < n; ++k)
         saida[k] = Passo();
@@ -197,18 +197,8 @@ Ponto Clifford::Passo()
 void Clifford::Pontos(Ponto* saida, int n)
 {
 #ifdef LUMERINA_MVEC
-    const double A = a, B = b, C = c, D = d;
-    const auto argumentos = [=](double px, double py, double* u) {
-        u[0] = A * py, u[1] = B * px, u[2] = A * px + kMeioPi, u[3] = B * py + kMeioPi;
-    };
-    const auto depois = [=](double& px, double& py, const double* s) {
-        px = s[0] + C * s[2];
-        py = s[1] + D * s[3];
-    };
-    if (TemAvx2())
-        CorrerAvx2(x, y, saida, n, argumentos, depois);
-    else
-        CorrerSse2(x, y, saida, n, argumentos, depois);
+    // x' = sin(A·y) + C·sin(A·x + π/2), y' = sin(B·x) + D·sin(B·y + π/2).
+    Correr({a, b, a, b, c, d}, x, y, saida, n);
 #else
     for (int k = 0; k < n; ++k)
         saida[k] = Passo();
@@ -302,13 +292,22 @@ Retangulo PlotarPontos(const Raster& r, const Ponto* pontos, int n, std::uint32_
 {
     Retangulo tocado;
     const int meio = tamanho / 2;
+    // The pixel is floor(v + 0.5); shifted by `meio`, every pixel a square may touch has
+    // v + 0.5 + meio in [0, largura + 2·meio), where truncation is the floor.
+    const double limX = r.largura + 2 * meio, limY = r.altura + 2 * meio;
+    const double desvio = 0.5 + meio;
     for (int k = 0; k < n; ++k) {
-        const double px = std::floor((pontos[k].x - r.esquerda) * r.fx + 0.5);
-        const double py = std::floor((pontos[k].y - r.topo) * r.fy + 0.5);
+        const double vx = (pontos[k].x - r.esquerda) * r.fx + desvio;
+        const double vy = (pontos[k].y - r.topo) * r.fy + desvio;
         // A point off the picture, or not a number (an orbit that ran away), draws nothing.
-        if (!(px >= -meio && px < r.largura + meio && py >= -meio && py < r.altura + meio))
+        if (!(vx >= 0 && vx < limX && vy >= 0 && vy < limY))
             continue;
-        const int cx = static_cast<int>(px), cy = static_cast<int>(py);
+        const int cx = static_cast<int>(vx) - meio, cy = static_cast<int>(vy) - meio;
+        if (meio == 0) {
+            r.linha0[cy * r.passo + cx] = cor;
+            tocado.Juntar(cx, cy);
+            continue;
+        }
         const int xa = std::max(cx - meio, 0), xb = std::min(cx + meio, r.largura - 1);
         const int ya = std::max(cy - meio, 0), yb = std::min(cy + meio, r.altura - 1);
         for (int yy = ya; yy <= yb; ++yy) {
