@@ -73,9 +73,10 @@ void CorrerSse2(const SenosDoPasso& k, double& x, double& y, Ponto* saida, int n
     y = _mm_cvtsd_f64(_mm_unpackhi_pd(xy, xy));
 }
 
-void Correr(const SenosDoPasso& k, double& x, double& y, Ponto* saida, int n)
+void Correr(const SenosDoPasso& k, double& x, double& y, Ponto* saida, int n,
+            bool quatroVias = true)
 {
-    if (TemAvx2())
+    if (quatroVias && TemAvx2())
         CorrerAvx2(k, x, y, saida, n);
     else
         CorrerSse2(k, x, y, saida, n);
@@ -186,6 +187,15 @@ void DeJong::Pontos(Ponto* saida, int n)
 #endif
 }
 
+void DeJong::PontosDuasVias(Ponto* saida, int n)
+{
+#ifdef LUMERINA_MVEC
+    Correr({a, c, b, d, -1, -1}, x, y, saida, n, false);
+#else
+    Pontos(saida, n);
+#endif
+}
+
 Ponto Clifford::Passo()
 {
     const double xn = std::sin(a * y) + c * std::cos(a * x);
@@ -202,6 +212,15 @@ void Clifford::Pontos(Ponto* saida, int n)
 #else
     for (int k = 0; k < n; ++k)
         saida[k] = Passo();
+#endif
+}
+
+void Clifford::PontosDuasVias(Ponto* saida, int n)
+{
+#ifdef LUMERINA_MVEC
+    Correr({a, b, a, b, c, d}, x, y, saida, n, false);
+#else
+    Pontos(saida, n);
 #endif
 }
 

@@ -90,6 +90,8 @@ struct DeJong {
     double x = 0, y = 0;
     Ponto Passo();
     void Pontos(Ponto* saida, int n);
+    // The same with two-lane (SSE2) vectors whatever the processor offers, for tests.
+    void PontosDuasVias(Ponto* saida, int n);
 };
 
 // Clifford from (0, 0): x' = sin(A·y) + C·cos(A·x), y' = sin(B·x) + D·cos(B·y).
@@ -99,6 +101,7 @@ struct Clifford {
     double x = 0, y = 0;
     Ponto Passo();
     void Pontos(Ponto* saida, int n);
+    void PontosDuasVias(Ponto* saida, int n);
 };
 
 // Tinkerbell: x' = x² − y² + A·x + B·y, y' = 2·x·y + C·x + D·y.

@@ -155,23 +155,26 @@ TEST(Atractores, KamDesenhaTodasAsLinhas)
 }
 
 // The vector sines against the formula, step by step from the same point: each step agrees
-// to rounding, whatever the instruction set.
+// to rounding, on four lanes and on two.
 TEST(Atractores, SenosVectoriaisConcordamComAFormula)
 {
-    DeJong j;
-    Clifford c{.a = 1.7, .b = 1.7, .c = 0.06, .d = 1.2};
-    for (int k = 0; k < 2000; ++k) {
-        DeJong jv = j;
-        Clifford cv = c;
-        Ponto pv;
-        jv.Pontos(&pv, 1);
-        const Ponto pj = j.Passo();
-        ASSERT_NEAR(pv.x, pj.x, 4e-15) << k;
-        ASSERT_NEAR(pv.y, pj.y, 4e-15) << k;
-        cv.Pontos(&pv, 1);
-        const Ponto pc = c.Passo();
-        ASSERT_NEAR(pv.x, pc.x, 4e-15) << k;
-        ASSERT_NEAR(pv.y, pc.y, 4e-15) << k;
+    for (const bool duasVias : {false, true}) {
+        SCOPED_TRACE(duasVias ? "two lanes" : "best lanes");
+        DeJong j;
+        Clifford c{.a = 1.7, .b = 1.7, .c = 0.06, .d = 1.2};
+        for (int k = 0; k < 2000; ++k) {
+            DeJong jv = j;
+            Clifford cv = c;
+            Ponto pv;
+            duasVias ? jv.PontosDuasVias(&pv, 1) : jv.Pontos(&pv, 1);
+            const Ponto pj = j.Passo();
+            ASSERT_NEAR(pv.x, pj.x, 4e-15) << k;
+            ASSERT_NEAR(pv.y, pj.y, 4e-15) << k;
+            duasVias ? cv.PontosDuasVias(&pv, 1) : cv.Pontos(&pv, 1);
+            const Ponto pc = c.Passo();
+            ASSERT_NEAR(pv.x, pc.x, 4e-15) << k;
+            ASSERT_NEAR(pv.y, pc.y, 4e-15) << k;
+        }
     }
 }
 
