@@ -5,6 +5,7 @@
 #include "app/PaginaInformacao.h"
 #include "app/PaginaInicial.h"
 #include "complex/PaginaMandelbrot.h"
+#include "dynamics/PaginaAtractores.h"
 #include "geometric/PaginaLSistemas.h"
 
 #include <QPointer>
@@ -47,6 +48,8 @@ QWidget* Criar(int numero)
         return new PaginaMandelbrot(Descricao(numero));
     case Form::LSistemas:
         return new PaginaLSistemas(Descricao(numero));
+    case Form::Atractores:
+        return new PaginaAtractores(Descricao(numero));
     case Form::Inicial:
         return new PaginaInicial(Descricao(numero));
     case Form::Instrucoes:
