@@ -1,10 +1,17 @@
 // Peter de Jong at 10⁶ iterations: the plain loop (libm sines and cosines, one
-// QImage::setPixel per point) against the stepper's batches plotted into scan lines, in the
-// same run.
+// QImage::setPixel per point) against the stepper's batches plotted into scan lines, and
+// against the whole page (checks, drawing session, yields, picture) with its speed bar at 0,
+// in the same run.
 
+#include "app/Aplicacao.h"
+#include "app/Paginas.h"
 #include "dynamics/Atractores.h"
 
+#include <QAbstractButton>
+#include <QCheckBox>
 #include <QImage>
+#include <QLineEdit>
+#include <QWidget>
 
 #include <benchmark/benchmark.h>
 
@@ -75,6 +82,21 @@ void DeJongSoPassos(benchmark::State& estado)
     }
 }
 BENCHMARK(DeJongSoPassos)->Unit(benchmark::kMillisecond);
+
+// Both ways the page can draw: to the screen only, and into the picture to copy.
+void DeJongPagina(benchmark::State& estado)
+{
+    QWidget* pagina = Pagina(Form::Atractores);
+    pagina->show();
+    pagina->findChild<QAbstractButton*>(QStringLiteral("DeJong"))->click();
+    pagina->findChild<QCheckBox*>(QStringLiteral("CopiarDeJong"))->setChecked(estado.range(0) != 0);
+    pagina->findChild<QLineEdit*>(QStringLiteral("Iterações"))->setText(QString::number(kIteracoes));
+    auto* desenhar = pagina->findChild<QAbstractButton*>(QStringLiteral("Desenhar"));
+    for (auto _ : estado)
+        desenhar->click();
+    FecharLumerina();
+}
+BENCHMARK(DeJongPagina)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace lumerina
