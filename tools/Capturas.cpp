@@ -1,7 +1,8 @@
 // Pictures of the program made by the program itself, on the offscreen platform:
 //   lumerina_capturas docs            the main page, the Mandelbrot page after a drawing,
-//                                     a comments page, the save dialog and the L-systems
-//                                     page after a Koch island
+//                                     a comments page, the save dialog, the L-systems
+//                                     page after a Koch island and the attractors page
+//                                     after a Lorenz drawing
 //   lumerina_capturas paginas PASTA   every information page, one PNG each
 //   lumerina_capturas lsistemas PASTA the L-systems page after each of its sixteen examples
 // `make capturas` runs both.
@@ -19,6 +20,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSpinBox>
 #include <QWidget>
 
 #include <cstdio>
@@ -43,6 +45,15 @@ int Documentacao(const QString& pasta)
     mandel->findChild<QLineEdit*>("MaxIterações")->setText("256");
     mandel->findChild<QPushButton*>("DesenharMandelbrot")->click();
     ok = Guardar(mandel, pasta + "/pagina-mandelbrot.png") && ok;
+    // The attractors page after a Lorenz drawing (its sixth set, B = 28), kept for copying.
+    QWidget* atractores = lumerina::Pagina(lumerina::Form::Atractores);
+    atractores->show();
+    atractores->findChild<QAbstractButton*>("Lorenz")->click();
+    atractores->findChild<QAbstractButton*>("CopiarLorenz")->click();
+    atractores->findChild<QSpinBox*>("UpDown1")->setValue(6);
+    atractores->findChild<QPushButton*>("Desenhar")->click();
+    ok = Guardar(atractores, pasta + "/pagina-atractores.png") && ok;
+    atractores->hide();
     // "Comentários" from the Mandelbrot page opens at its first page on the set.
     mandel->findChild<QAction*>("Comentários")->trigger();
     ok = Guardar(lumerina::Pagina(lumerina::Form::Comentarios), pasta + "/pagina-comentarios.png") && ok;
