@@ -60,8 +60,7 @@ void DeJongEmLotes(benchmark::State& estado)
         Atractor atractor = DeJong{};
         for (int feitos = 0; feitos < kIteracoes;) {
             const int n = std::min<int>(static_cast<int>(lote.size()), kIteracoes - feitos);
-            Pontos(atractor, lote.data(), n);
-            PlotarPontos(r, lote.data(), n, kAzul, 1);
+            PontosPlotados(atractor, lote.data(), n, r, kAzul, 1);
             feitos += n;
         }
         benchmark::DoNotOptimize(imagem.constBits());

@@ -20,6 +20,28 @@ constexpr double kMeioPi = 1.5707963267948966;
 // VB's Sgn: −1, 0 or 1.
 double Sinal(double v) { return v > 0 ? 1.0 : (v < 0 ? -1.0 : 0.0); }
 
+// A point of one pixel: the pixel is floor(v + 0.5), and where v + 0.5 is in [0, side) the
+// truncation is that floor. A point off the picture, or not a number (an orbit that ran
+// away), draws nothing.
+[[gnu::always_inline]] inline void PlotarUm(const Raster& r, double x, double y, std::uint32_t cor,
+                                            Retangulo& tocado)
+{
+    const double vx = (x - r.esquerda) * r.fx + 0.5;
+    const double vy = (y - r.topo) * r.fy + 0.5;
+    if (!(vx >= 0 && vx < r.largura && vy >= 0 && vy < r.altura))
+        return;
+    const int cx = static_cast<int>(vx), cy = static_cast<int>(vy);
+    r.linha0[cy * r.passo + cx] = cor;
+    tocado.Juntar(cx, cy);
+}
+
+// Where a run of steps plots its points as it goes (null: it only keeps them).
+struct Plotagem {
+    const Raster& raster;
+    std::uint32_t cor;
+    Retangulo tocado;
+};
+
 #ifdef LUMERINA_MVEC
 bool TemAvx2()
 {
@@ -39,7 +61,7 @@ struct SenosDoPasso {
 };
 
 [[gnu::target("avx2")]] void CorrerAvx2(const SenosDoPasso& k, double& x, double& y, Ponto* saida,
-                                        int n)
+                                        int n, Plotagem* plotagem)
 {
     const __m256d coef = _mm256_set_pd(k.h1, k.h0, k.l1, k.l0);
     const __m256d desvio = _mm256_set_pd(kMeioPi, kMeioPi, 0.0, 0.0);
@@ -51,12 +73,16 @@ struct SenosDoPasso {
         const __m256d s = _ZGVdN4v_sin(u);
         xy = _mm_add_pd(_mm256_castpd256_pd128(s), _mm_mul_pd(m, _mm256_extractf128_pd(s, 1)));
         _mm_storeu_pd(&saida[i].x, xy);
+        // Off the chain of steps: done while the next sines are computed.
+        if (plotagem)
+            PlotarUm(plotagem->raster, saida[i].x, saida[i].y, plotagem->cor, plotagem->tocado);
     }
     x = _mm_cvtsd_f64(xy);
     y = _mm_cvtsd_f64(_mm_unpackhi_pd(xy, xy));
 }
 
-void CorrerSse2(const SenosDoPasso& k, double& x, double& y, Ponto* saida, int n)
+void CorrerSse2(const SenosDoPasso& k, double& x, double& y, Ponto* saida, int n,
+                Plotagem* plotagem)
 {
     const __m128d l = _mm_set_pd(k.l1, k.l0), h = _mm_set_pd(k.h1, k.h0);
     const __m128d desvio = _mm_set1_pd(kMeioPi);
@@ -68,18 +94,25 @@ void CorrerSse2(const SenosDoPasso& k, double& x, double& y, Ponto* saida, int n
         const __m128d sh = _ZGVbN2v_sin(_mm_add_pd(_mm_mul_pd(h, xy), desvio));
         xy = _mm_add_pd(sl, _mm_mul_pd(m, sh));
         _mm_storeu_pd(&saida[i].x, xy);
+        if (plotagem)
+            PlotarUm(plotagem->raster, saida[i].x, saida[i].y, plotagem->cor, plotagem->tocado);
     }
     x = _mm_cvtsd_f64(xy);
     y = _mm_cvtsd_f64(_mm_unpackhi_pd(xy, xy));
 }
 
+// x' = sin(A·y) − sin(B·x + π/2), y' = sin(C·x) − sin(D·y + π/2).
+SenosDoPasso Senos(const DeJong& j) { return {j.a, j.c, j.b, j.d, -1, -1}; }
+// x' = sin(A·y) + C·sin(A·x + π/2), y' = sin(B·x) + D·sin(B·y + π/2).
+SenosDoPasso Senos(const Clifford& c) { return {c.a, c.b, c.a, c.b, c.c, c.d}; }
+
 void Correr(const SenosDoPasso& k, double& x, double& y, Ponto* saida, int n,
-            bool quatroVias = true)
+            bool quatroVias = true, Plotagem* plotagem = nullptr)
 {
     if (quatroVias && TemAvx2())
-        CorrerAvx2(k, x, y, saida, n);
+        CorrerAvx2(k, x, y, saida, n, plotagem);
     else
-        CorrerSse2(k, x, y, saida, n);
+        CorrerSse2(k, x, y, saida, n, plotagem);
 }
 #endif
 
@@ -179,8 +212,7 @@ Ponto DeJong::Passo()
 void DeJong::Pontos(Ponto* saida, int n)
 {
 #ifdef LUMERINA_MVEC
-    // x' = sin(A·y) − sin(B·x + π/2), y' = sin(C·x) − sin(D·y + π/2).
-    Correr({a, c, b, d, -1, -1}, x, y, saida, n);
+    Correr(Senos(*this), x, y, saida, n);
 #else
     for (int k = 0; k < n; ++k)
         saida[k] = Passo();
@@ -190,7 +222,7 @@ void DeJong::Pontos(Ponto* saida, int n)
 void DeJong::PontosDuasVias(Ponto* saida, int n)
 {
 #ifdef LUMERINA_MVEC
-    Correr({a, c, b, d, -1, -1}, x, y, saida, n, false);
+    Correr(Senos(*this), x, y, saida, n, false);
 #else
     Pontos(saida, n);
 #endif
@@ -207,8 +239,7 @@ Ponto Clifford::Passo()
 void Clifford::Pontos(Ponto* saida, int n)
 {
 #ifdef LUMERINA_MVEC
-    // x' = sin(A·y) + C·sin(A·x + π/2), y' = sin(B·x) + D·sin(B·y + π/2).
-    Correr({a, b, a, b, c, d}, x, y, saida, n);
+    Correr(Senos(*this), x, y, saida, n);
 #else
     for (int k = 0; k < n; ++k)
         saida[k] = Passo();
@@ -218,7 +249,7 @@ void Clifford::Pontos(Ponto* saida, int n)
 void Clifford::PontosDuasVias(Ponto* saida, int n)
 {
 #ifdef LUMERINA_MVEC
-    Correr({a, b, a, b, c, d}, x, y, saida, n, false);
+    Correr(Senos(*this), x, y, saida, n, false);
 #else
     Pontos(saida, n);
 #endif
@@ -293,40 +324,26 @@ long long TotalPontos(const Atractor& atractor, int iteracoes)
     return iteracoes;
 }
 
-void Retangulo::Juntar(int x, int y)
-{
-    if (Vazio()) {
-        x0 = x1 = x;
-        y0 = y1 = y;
-        return;
-    }
-    x0 = std::min(x0, x);
-    x1 = std::max(x1, x);
-    y0 = std::min(y0, y);
-    y1 = std::max(y1, y);
-}
-
 Retangulo PlotarPontos(const Raster& r, const Ponto* pontos, int n, std::uint32_t cor,
                        int tamanho)
 {
     Retangulo tocado;
+    if (tamanho <= 1) {
+        for (int k = 0; k < n; ++k)
+            PlotarUm(r, pontos[k].x, pontos[k].y, cor, tocado);
+        return tocado;
+    }
+    // A square of `tamanho` pixels: shifted by `meio`, every pixel it may touch has
+    // v + 0.5 + meio in [0, side + 2·meio), where truncation is the floor.
     const int meio = tamanho / 2;
-    // The pixel is floor(v + 0.5); shifted by `meio`, every pixel a square may touch has
-    // v + 0.5 + meio in [0, largura + 2·meio), where truncation is the floor.
     const double limX = r.largura + 2 * meio, limY = r.altura + 2 * meio;
     const double desvio = 0.5 + meio;
     for (int k = 0; k < n; ++k) {
         const double vx = (pontos[k].x - r.esquerda) * r.fx + desvio;
         const double vy = (pontos[k].y - r.topo) * r.fy + desvio;
-        // A point off the picture, or not a number (an orbit that ran away), draws nothing.
         if (!(vx >= 0 && vx < limX && vy >= 0 && vy < limY))
             continue;
         const int cx = static_cast<int>(vx) - meio, cy = static_cast<int>(vy) - meio;
-        if (meio == 0) {
-            r.linha0[cy * r.passo + cx] = cor;
-            tocado.Juntar(cx, cy);
-            continue;
-        }
         const int xa = std::max(cx - meio, 0), xb = std::min(cx + meio, r.largura - 1);
         const int ya = std::max(cy - meio, 0), yb = std::min(cy + meio, r.altura - 1);
         for (int yy = ya; yy <= yb; ++yy) {
@@ -338,6 +355,26 @@ Retangulo PlotarPontos(const Raster& r, const Ponto* pontos, int n, std::uint32_
         tocado.Juntar(xb, yb);
     }
     return tocado;
+}
+
+Retangulo PontosPlotados(Atractor& atractor, Ponto* lote, int n, const Raster& raster,
+                         std::uint32_t cor, int tamanho)
+{
+#ifdef LUMERINA_MVEC
+    if (tamanho == 1) {
+        Plotagem plotagem{raster, cor, {}};
+        if (DeJong* j = std::get_if<DeJong>(&atractor)) {
+            Correr(Senos(*j), j->x, j->y, lote, n, true, &plotagem);
+            return plotagem.tocado;
+        }
+        if (Clifford* c = std::get_if<Clifford>(&atractor)) {
+            Correr(Senos(*c), c->x, c->y, lote, n, true, &plotagem);
+            return plotagem.tocado;
+        }
+    }
+#endif
+    Pontos(atractor, lote, n);
+    return PlotarPontos(raster, lote, n, cor, tamanho);
 }
 
 }  // namespace lumerina

@@ -7,6 +7,7 @@
 // and its Passo() returns the curve's next sample. Pontos() fills a batch with the next n
 // points: the same sequence as n calls of Passo(), done the fast way where there is one.
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <variant>
@@ -166,12 +167,29 @@ struct Raster {
 struct Retangulo {
     int x0 = 1, y0 = 1, x1 = 0, y1 = 0;  // inclusive corners; x0 > x1 when empty
     bool Vazio() const { return x0 > x1; }
-    void Juntar(int x, int y);
+    void Juntar(int x, int y)
+    {
+        if (Vazio()) {
+            x0 = x1 = x;
+            y0 = y1 = y;
+            return;
+        }
+        x0 = std::min(x0, x);
+        x1 = std::max(x1, x);
+        y0 = std::min(y0, y);
+        y1 = std::max(y1, y);
+    }
 };
 
 // Sets every point of the batch that falls inside the raster to `cor`, as a square of
 // `tamanho` pixels centred on it (1 or 3). Returns the rectangle touched.
 Retangulo PlotarPontos(const Raster& raster, const Ponto* pontos, int n, std::uint32_t cor,
                        int tamanho);
+
+// Pontos() followed by PlotarPontos(), the same points and pixels; the points are left in
+// `lote`. For Peter de Jong and Clifford in small points each point is plotted as soon as it
+// is made, while the vector sines of the next step are under way.
+Retangulo PontosPlotados(Atractor& atractor, Ponto* lote, int n, const Raster& raster,
+                         std::uint32_t cor, int tamanho);
 
 }  // namespace lumerina

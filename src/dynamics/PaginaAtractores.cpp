@@ -469,9 +469,8 @@ void PaginaAtractores::DesenharAtractor(TipoAtractor tipo)
                           : static_cast<int>(std::min<long long>(kLote, total - feitos));
         const bool persistente = !q.copiar || q.copiar->isChecked();
         const bool ver = persistente && q.verPonto && q.verPonto->isChecked();
-        Pontos(atractor, lote_.data(), n);
         MarcarPonto(std::nullopt);  // off before the points: they may fall under it
-        Plotar(lote_.data(), n, persistente, q.grandes && q.grandes->isChecked() ? 3 : 1);
+        Plotar(atractor, n, persistente, q.grandes && q.grandes->isChecked() ? 3 : 1);
         if (ver)
             MarcarPonto(lote_[static_cast<std::size_t>(n - 1)]);
         feitos += n;
@@ -487,7 +486,7 @@ void PaginaAtractores::DesenharAtractor(TipoAtractor tipo)
     sessao.Concluir();
 }
 
-void PaginaAtractores::Plotar(const Ponto* pontos, int n, bool persistente, int tamanho)
+void PaginaAtractores::Plotar(Atractor& atractor, int n, bool persistente, int tamanho)
 {
     ControloImagem* imagem = janela_->Imagem();
     const int largura = imagem->LarguraPixeis(), altura = imagem->AlturaPixeis();
@@ -497,7 +496,7 @@ void PaginaAtractores::Plotar(const Ponto* pontos, int n, bool persistente, int 
     const Raster raster{linha0, imagem->Imagem().bytesPerLine() / 4, largura, altura,
                         imagem->EscalaX(0), imagem->EscalaY(0),
                         largura / imagem->LarguraEscala(), altura / imagem->AlturaEscala()};
-    const Retangulo r = PlotarPontos(raster, pontos, n, kCorPontos, tamanho);
+    const Retangulo r = PontosPlotados(atractor, lote_.data(), n, raster, kCorPontos, tamanho);
     if (r.Vazio())
         return;
     const QRect tocado(QPoint(r.x0, r.y0), QPoint(r.x1, r.y1));

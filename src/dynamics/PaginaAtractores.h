@@ -69,8 +69,8 @@ private:
     void DesenharAtractor(TipoAtractor tipo);
     Atractor CriarAtractor(TipoAtractor tipo) const;
     double Parametro(TipoAtractor tipo, int i) const;
-    // Plots a batch into the persistent image or the screen layer.
-    void Plotar(const Ponto* pontos, int n, bool persistente, int tamanho);
+    // The next n points, into lote_ and plotted in the persistent image or the screen layer.
+    void Plotar(Atractor& atractor, int n, bool persistente, int tamanho);
     // "Ver ponto": an inverted box round the current point, on the screen layer only.
     void MarcarPonto(std::optional<Ponto> ponto);
 

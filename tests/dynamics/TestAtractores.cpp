@@ -298,5 +298,45 @@ TEST(Atractores, PlotarPontosNoRaster)
     }
 }
 
+// Plotting while stepping gives the points and pixels of stepping, then plotting: the fused
+// loops of Peter de Jong and Clifford as much as the others, big points included.
+TEST(Atractores, PontosPlotadosComoPontosEDepoisPlotar)
+{
+    struct Caso {
+        const char* nome;
+        Atractor atractor;
+        int tamanho;
+    };
+    const Caso casos[] = {
+        {"Peter de Jong", DeJong{}, 1},
+        {"Clifford", Clifford{}, 1},
+        {"Peter de Jong, big points", DeJong{}, 3},
+        {"Henon", Henon{}, 1},
+    };
+    constexpr int kLado = 97, kN = 3000;
+    for (const Caso& c : casos) {
+        SCOPED_TRACE(c.nome);
+        std::vector<std::uint32_t> a(kLado * kLado, 0), b(kLado * kLado, 0);
+        // The window -2.5 … 2 x -2.2 … 2.7, so that some points fall off the picture.
+        const auto raster = [](std::vector<std::uint32_t>& px) {
+            return Raster{px.data(), kLado, kLado, kLado, -2.5, 2.7, kLado / 4.5, kLado / -4.9};
+        };
+        Atractor juntos = c.atractor, separados = c.atractor;
+        std::vector<Ponto> la(kN), lb(kN);
+        for (int lote = 0; lote < 3; ++lote) {
+            const Retangulo ra = PontosPlotados(juntos, la.data(), kN, raster(a), 7u, c.tamanho);
+            Pontos(separados, lb.data(), kN);
+            const Retangulo rb = PlotarPontos(raster(b), lb.data(), kN, 7u, c.tamanho);
+            ASSERT_EQ(la[kN - 1].x, lb[kN - 1].x);
+            ASSERT_EQ(la[kN - 1].y, lb[kN - 1].y);
+            EXPECT_EQ(ra.x0, rb.x0);
+            EXPECT_EQ(ra.y0, rb.y0);
+            EXPECT_EQ(ra.x1, rb.x1);
+            EXPECT_EQ(ra.y1, rb.y1);
+        }
+        EXPECT_EQ(a, b);
+    }
+}
+
 }  // namespace
 }  // namespace lumerina

@@ -267,8 +267,9 @@ TEST_F(FormAtractores, ValidacaoPelaOrdemComAsMensagensDaPagina)
         }
         ASSERT_EQ(sistema->mensagens.size(), 1u);
         EXPECT_EQ(sistema->mensagens[0].titulo, c.titulo);
-        if (c.texto)
+        if (c.texto) {
             EXPECT_EQ(sistema->mensagens[0].texto, QString::fromUtf8(c.texto));
+        }
         EXPECT_FALSE(janela->desenhado);
         EXPECT_EQ(Pontos(imagem->ImagemEcra()), 0);
     }
