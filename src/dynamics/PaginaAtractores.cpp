@@ -71,8 +71,9 @@ PaginaAtractores::PaginaAtractores(const DescricaoPagina& descricao, QWidget* pa
 
     janela_ = new JanelaDesenho(this, area, QPoint(8, 8));
     // On this page HScroll1 … HScroll4 are the speed bars; the picture's size bars give way.
-    area->findChild<QScrollBar*>(QStringLiteral("HScroll1"))->setObjectName(QStringLiteral("HScrollImagem"));
-    area->findChild<QScrollBar*>(QStringLiteral("VScroll1"))->setObjectName(QStringLiteral("VScrollImagem"));
+    for (const auto& [antigo, novo] : {std::pair{"HScroll1", "HScrollImagem"},
+                                       std::pair{"VScroll1", "VScrollImagem"}})
+        area->findChild<QScrollBar*>(QString::fromUtf8(antigo))->setObjectName(QString::fromUtf8(novo));
 
     QGroupBox* tipos = lumerina::Quadro(area, "Tipo de atractor", {kPainelX, 32, kPainelLargura, 112});
     const auto onde = [](int i) { return QRect(10 + (i % 3) * 108, 20 + (i / 3) * 22, 106, 21); };
@@ -113,7 +114,7 @@ PaginaAtractores::PaginaAtractores(const DescricaoPagina& descricao, QWidget* pa
     janela_->Guardar()->move(8, 24);
     janela_->Copiar()->move(88, 24);
     janela_->Apagar()->move(168, 24);
-    janela_->LigarDesenho(Botao(opcoes, "Desenhar", " Desenhar", {248, 24, 80, 28}),
+    janela_->LigarDesenho(Botao(opcoes, "Desenhar", "Desenhar", {248, 24, 80, 28}),
                           [this] { CarregarDesenhar(); });
 
     EscolherTipo(TipoAtractor::Lorenz);
