@@ -1,18 +1,21 @@
 // Pictures of the program made by the program itself, on the offscreen platform:
-//   lumerina_capturas docs PASTA      the main page, the Mandelbrot page after a drawing, a
-//                                     comments page, the save dialog, the L-systems page
-//                                     after a Koch island, and the sequences page (a
-//                                     construction and a solution)
+//   lumerina_capturas docs PASTA      the main page, the Mandelbrot page after a drawing,
+//                                     a comments page, the save dialog, the IFS page after
+//                                     the fern, the L-systems page after a Koch island, the
+//                                     attractors page after a Lorenz drawing and the
+//                                     sequences page (a construction and a solution)
 //   lumerina_capturas paginas PASTA   every information page, one PNG each
 //   lumerina_capturas lsistemas PASTA the L-systems page after each of its sixteen examples
+//   lumerina_capturas ifs PASTA       every system of the IFS page, one picture each
 //   lumerina_capturas sucessoes PASTA the sequences page: every example's construction and
 //                                     every sheet of its solution
-// `make capturas` runs docs, paginas and sucessoes.
+// `make capturas` runs them all.
 
 #include "app/Aplicacao.h"
 #include "app/PaginaInformacao.h"
 #include "app/Paginas.h"
 #include "dynamics/PaginaSucessoes.h"
+#include "frame/ControloImagem.h"
 #include "frame/Plataforma.h"
 #include "geometric/PaginaLSistemas.h"
 
@@ -20,9 +23,11 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QGroupBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSpinBox>
 #include <QToolButton>
 #include <QWidget>
 
@@ -48,6 +53,15 @@ int Documentacao(const QString& pasta)
     mandel->findChild<QLineEdit*>("MaxIterações")->setText("256");
     mandel->findChild<QPushButton*>("DesenharMandelbrot")->click();
     ok = Guardar(mandel, pasta + "/pagina-mandelbrot.png") && ok;
+    // The attractors page after a Lorenz drawing (its sixth set, B = 28), kept for copying.
+    QWidget* atractores = lumerina::Pagina(lumerina::Form::Atractores);
+    atractores->show();
+    atractores->findChild<QAbstractButton*>("Lorenz")->click();
+    atractores->findChild<QAbstractButton*>("CopiarLorenz")->click();
+    atractores->findChild<QSpinBox*>("UpDown1")->setValue(6);
+    atractores->findChild<QPushButton*>("Desenhar")->click();
+    ok = Guardar(atractores, pasta + "/pagina-atractores.png") && ok;
+    atractores->hide();
     // "Comentários" from the Mandelbrot page opens at its first page on the set.
     mandel->findChild<QAction*>("Comentários")->trigger();
     ok = Guardar(lumerina::Pagina(lumerina::Form::Comentarios), pasta + "/pagina-comentarios.png") && ok;
@@ -59,6 +73,10 @@ int Documentacao(const QString& pasta)
     dialogo->resize(640, 400);
     dialogo->show();
     ok = Guardar(dialogo.get(), pasta + "/dialogo-guardar.png") && ok;
+    QWidget* ifs = lumerina::Pagina(lumerina::Form::IFS);
+    ifs->show();
+    ifs->findChild<QPushButton*>("FetoBarnsley")->click();
+    ok = Guardar(ifs, pasta + "/pagina-ifs.png") && ok;
     // The quadratic Koch island, example "12".
     QWidget* lsistemas = lumerina::Pagina(lumerina::Form::LSistemas);
     lsistemas->show();
@@ -152,6 +170,34 @@ int Paginas(const QString& pasta)
     return ok ? 0 : 1;
 }
 
+// Each example button of the IFS page on a cleared picture, 300 000 steps, in the order of
+// the buttons: NN-Nome.png.
+int SistemasIFS(const QString& pasta)
+{
+    QDir().mkpath(pasta);
+    AbrirLumerina();
+    QWidget* pagina = lumerina::Pagina(lumerina::Form::IFS);
+    pagina->show();
+    pagina->findChild<QLineEdit*>("NumIteraçõesIFS")->setText("300000");
+    auto* apagar = pagina->findChild<QPushButton*>("ApagarGráfico");
+    auto* imagem = pagina->findChild<lumerina::ControloImagem*>("Picture1");
+    bool ok = true;
+    int n = 0;
+    for (const char* quadro : {"Frame1", "Frame3"}) {
+        for (QPushButton* b : pagina->findChild<QGroupBox*>(quadro)->findChildren<QPushButton*>()) {
+            if (b->objectName() == "Command1" || b->objectName() == "Command7")
+                continue;
+            apagar->click();
+            b->click();
+            const QString nome =
+                QStringLiteral("%1/%2-%3.png").arg(pasta).arg(++n, 2, 10, QLatin1Char('0')).arg(b->objectName());
+            ok = imagem->Imagem().save(nome) && ok;
+        }
+    }
+    std::printf("%d sistemas %s\n", n, ok ? "escritos" : "FALHOU");
+    return ok ? 0 : 1;
+}
+
 }  // namespace
 
 int main(int argc, char* argv[])
@@ -167,11 +213,13 @@ int main(int argc, char* argv[])
         codigo = Paginas(args[2]);
     else if (args.size() >= 3 && args[1] == "lsistemas")
         codigo = ExemplosLSistemas(args[2]);
+    else if (args.size() >= 3 && args[1] == "ifs")
+        codigo = SistemasIFS(args[2]);
     else if (args.size() >= 3 && args[1] == "sucessoes")
         codigo = Sucessoes(args[2]);
     else
         std::fprintf(stderr, "uso: lumerina_capturas docs PASTA | paginas PASTA | lsistemas PASTA"
-                             " | sucessoes PASTA\n");
+                             " | ifs PASTA | sucessoes PASTA\n");
     lumerina::FecharLumerina();
     return codigo;
 }

@@ -6,6 +6,8 @@
 #include "app/PaginaInicial.h"
 #include "complex/PaginaMandelbrot.h"
 #include "dynamics/PaginaSucessoes.h"
+#include "geometric/PaginaIFS.h"
+#include "dynamics/PaginaAtractores.h"
 #include "geometric/PaginaLSistemas.h"
 
 #include <QPointer>
@@ -46,8 +48,12 @@ QWidget* Criar(int numero)
     switch (numero) {
     case Form::Mandelbrot:
         return new PaginaMandelbrot(Descricao(numero));
+    case Form::IFS:
+        return new PaginaIFS(Descricao(numero));
     case Form::LSistemas:
         return new PaginaLSistemas(Descricao(numero));
+    case Form::Atractores:
+        return new PaginaAtractores(Descricao(numero));
     case Form::Inicial:
         return new PaginaInicial(Descricao(numero));
     case Form::Instrucoes:
