@@ -4,6 +4,7 @@
 #include "frame/EsquemaCores.h"
 #include "geometric/Construcoes.h"
 #include "geometric/LSistema.h"
+#include "geometric/SistemaIFS.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -12,7 +13,6 @@
 #include <algorithm>
 #include <cmath>
 #include <complex>
-#include <random>
 #include <vector>
 
 namespace lumerina {
@@ -22,8 +22,9 @@ namespace {
 const QColor kFundo(0x10, 0x24, 0x4a);
 const QColor kMoldura(0xf3, 0xc9, 0x69, 110);
 
-// A blank picture of `tamanho` device-independent pixels at the given ratio.
-QImage Tela(QSize tamanho, qreal escala)
+}  // namespace
+
+QImage NovaFigura(QSize tamanho, qreal escala)
 {
     QImage imagem(tamanho * escala, QImage::Format_RGB32);
     imagem.setDevicePixelRatio(escala);
@@ -31,13 +32,15 @@ QImage Tela(QSize tamanho, qreal escala)
     return imagem;
 }
 
-void Moldura(QImage& imagem)
+void Emoldurar(QImage& imagem)
 {
     QPainter pintor(&imagem);
     pintor.setPen(kMoldura);
     const QSizeF t = imagem.deviceIndependentSize();
     pintor.drawRect(QRectF(0.5, 0.5, t.width() - 1, t.height() - 1));
 }
+
+namespace {
 
 // World window [x0, x1] centred on y = yc, with the picture's own aspect.
 struct Janela {
@@ -84,7 +87,7 @@ void PintarPontos(QImage& imagem, const Janela& j, const std::vector<QPointF>& p
 
 QImage FiguraMandelbrot(QSize tamanho, qreal escala)
 {
-    QImage imagem = Tela(tamanho, escala);
+    QImage imagem = NovaFigura(tamanho, escala);
     const int w = imagem.width(), h = imagem.height();
     const Janela j = JanelaCentrada(imagem, -2.45, 0.95, 0.0);
     // The page's kernel: column i, row counter j from the bottom, steps over W − 1 and H − 1.
@@ -101,13 +104,13 @@ QImage FiguraMandelbrot(QSize tamanho, qreal escala)
                 n == N ? qRgb(0x05, 0x08, 0x14) : CorEntrada(fogo, std::min(255, 2 * n));
         }
     }
-    Moldura(imagem);
+    Emoldurar(imagem);
     return imagem;
 }
 
 QImage FiguraJulia(QSize tamanho, qreal escala)
 {
-    QImage imagem = Tela(tamanho, escala);
+    QImage imagem = NovaFigura(tamanho, escala);
     const Janela j = JanelaCentrada(imagem, -1.75, 1.75, 0.0);
     EsquemaCores azul;
     PreencherAzul(azul);
@@ -123,13 +126,13 @@ QImage FiguraJulia(QSize tamanho, qreal escala)
         }
         return n == N ? qRgb(0, 0, 0) : CorEntrada(azul, 1 + n * 4 % 255);
     });
-    Moldura(imagem);
+    Emoldurar(imagem);
     return imagem;
 }
 
 QImage FiguraNewton(QSize tamanho, qreal escala)
 {
-    QImage imagem = Tela(tamanho, escala);
+    QImage imagem = NovaFigura(tamanho, escala);
     const Janela j = JanelaCentrada(imagem, -2.0, 2.0, 0.0);
     // Basins of the roots of z³ − 1, darker the longer Newton's method takes.
     const std::complex<double> raizes[3] = {{1, 0}, {-0.5, std::sqrt(3.0) / 2},
@@ -151,51 +154,41 @@ QImage FiguraNewton(QSize tamanho, qreal escala)
         }
         return qRgb(0, 0, 0);
     });
-    Moldura(imagem);
+    Emoldurar(imagem);
     return imagem;
 }
 
 QImage FiguraFeto(QSize tamanho, qreal escala)
 {
-    QImage imagem = Tela(tamanho, escala);
-    // Barnsley's fern: x' = a·x + b·y + e, y' = c·x + d·y + f, map k with probability p.
-    struct Mapa { double a, b, c, d, e, f, p; };
-    const Mapa mapas[] = {{0, 0, 0, 0.16, 0, 0, 0.01},
-                          {0.85, 0.04, -0.04, 0.85, 0, 1.6, 0.85},
-                          {0.2, -0.26, 0.23, 0.22, 0, 1.6, 0.07},
-                          {-0.15, 0.28, 0.26, 0.24, 0, 0.44, 0.07}};
-    // Lying on its side, the fern fills the wide picture: x across, growing to the right.
-    const double altura = 10.4;
-    const Janela j = JanelaCentrada(imagem, -0.2, altura, 0.25);
-    std::minstd_rand gerador(1994);
-    std::uniform_real_distribution<double> uniforme(0.0, 1.0);
+    QImage imagem = NovaFigura(tamanho, escala);
+    // The IFS page's own system and random iteration, from a fixed seed. Lying on its side,
+    // the fern fills the wide picture: its height runs across, growing to the right.
+    const SistemaIFS* feto = SistemaIFSPorNome("Feto de Barnsley");
     std::vector<QPointF> pontos;
-    const int total = int(14000 * escala * escala);
-    pontos.reserve(std::size_t(total));
-    double x = 0, y = 0;
-    for (int k = 0; k < total; ++k) {
-        double r = uniforme(gerador);
-        const Mapa* m = &mapas[3];
-        for (const Mapa& candidato : mapas) {
-            if (r < candidato.p) {
-                m = &candidato;
-                break;
-            }
-            r -= candidato.p;
-        }
-        const double nx = m->a * x + m->b * y + m->e;
-        y = m->c * x + m->d * y + m->f;
-        x = nx;
-        pontos.emplace_back(y, x);
+    if (feto) {
+        IteracaoIFS iteracao(*feto);
+        UniformeIFS uniforme(1994);
+        const long long total = (long long)(14000 * escala * escala);
+        pontos.reserve(std::size_t(total));
+        iteracao.Avancar(total + kTransitorio, uniforme,
+                         [&](float x, float y) { pontos.emplace_back(y, -x); });
     }
-    PintarPontos(imagem, j, pontos, QColor(0x7c, 0xe0, 0x6a), 0.55);
-    Moldura(imagem);
+    QRectF caixa;
+    for (const QPointF& p : pontos)
+        caixa |= QRectF(p, QSizeF(1e-9, 1e-9));
+    if (!caixa.isEmpty()) {
+        const double margem = 0.04 * caixa.width();
+        const Janela j = JanelaCentrada(imagem, caixa.left() - margem, caixa.right() + margem,
+                                        caixa.center().y());
+        PintarPontos(imagem, j, pontos, QColor(0x7c, 0xe0, 0x6a), 0.55);
+    }
+    Emoldurar(imagem);
     return imagem;
 }
 
 QImage FiguraSierpinski(QSize tamanho, qreal escala)
 {
-    QImage imagem = Tela(tamanho, escala);
+    QImage imagem = NovaFigura(tamanho, escala);
     {
         QPainter pintor(&imagem);
         pintor.setRenderHint(QPainter::Antialiasing);
@@ -211,55 +204,13 @@ QImage FiguraSierpinski(QSize tamanho, qreal escala)
             pintor.drawPolygon(QPolygonF({p(tr.a), p(tr.b), p(tr.c)}));
         }
     }
-    Moldura(imagem);
-    return imagem;
-}
-
-QImage FiguraAtractor(QSize tamanho, qreal escala)
-{
-    QImage imagem = Tela(tamanho, escala);
-    // Lorenz's system (σ = 10, ρ = 28, β = 8/3) by fourth-order Runge-Kutta steps, seen
-    // along y: the two wings side by side.
-    struct Estado { double x, y, z; };
-    const auto derivada = [](const Estado& s) {
-        return Estado{10 * (s.y - s.x), s.x * (28 - s.z) - s.y, s.x * s.y - 8.0 / 3 * s.z};
-    };
-    const auto mais = [](const Estado& a, const Estado& b, double h) {
-        return Estado{a.x + h * b.x, a.y + h * b.y, a.z + h * b.z};
-    };
-    Estado s{1, 1, 20};
-    const double h = 0.006;
-    std::vector<QPointF> pontos;
-    for (int k = 0; k < 9000; ++k) {
-        const Estado k1 = derivada(s), k2 = derivada(mais(s, k1, h / 2)),
-                     k3 = derivada(mais(s, k2, h / 2)), k4 = derivada(mais(s, k3, h));
-        s = Estado{s.x + h / 6 * (k1.x + 2 * k2.x + 2 * k3.x + k4.x),
-                   s.y + h / 6 * (k1.y + 2 * k2.y + 2 * k3.y + k4.y),
-                   s.z + h / 6 * (k1.z + 2 * k2.z + 2 * k3.z + k4.z)};
-        if (k > 200)
-            pontos.emplace_back(s.x, s.z);
-    }
-    {
-        QPainter pintor(&imagem);
-        pintor.setRenderHint(QPainter::Antialiasing);
-        const QSizeF t = imagem.deviceIndependentSize();
-        // x in [−22, 22] and z in [2, 50] fill the height; the width is centred.
-        const double porUnidade = (t.height() - 8) / 48.0;
-        QTransform mundo;
-        mundo.translate(t.width() / 2, t.height() - 4 + 2 * porUnidade);
-        mundo.scale(porUnidade, -porUnidade);
-        pintor.setTransform(mundo);
-        QPen caneta(QColor(0xff, 0x9e, 0x5e, 150), 0);
-        pintor.setPen(caneta);
-        pintor.drawPolyline(pontos.data(), int(pontos.size()));
-    }
-    Moldura(imagem);
+    Emoldurar(imagem);
     return imagem;
 }
 
 QImage FiguraPlanta(QSize tamanho, qreal escala)
 {
-    QImage imagem = Tela(tamanho, escala);
+    QImage imagem = NovaFigura(tamanho, escala);
     // The L-systems page's rewriting and turtle: F -> FF-[-F+F+F]+[+F-F-F] three times,
     // turning 22.5° either way. The turtle takes long steps upwards (it rounds its position
     // to whole units), and the plant is then scaled into the picture.
@@ -289,7 +240,7 @@ QImage FiguraPlanta(QSize tamanho, qreal escala)
         for (const Segmento& t : tracos)
             pintor.drawLine(QLineF(t.x1, t.y1, t.x2, t.y2));
     }
-    Moldura(imagem);
+    Emoldurar(imagem);
     return imagem;
 }
 
