@@ -1,0 +1,285 @@
+#include "complex/Julia.h"
+
+#include "interp/clsEquation.h"
+
+#include <bit>
+#include <climits>
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+#include <cstdlib>
+
+#if defined(__x86_64__) || defined(__i386__)
+#include <immintrin.h>
+#define LUMERINA_X86 1
+#endif
+
+namespace lumerina {
+namespace {
+
+typedef double V2d __attribute__((vector_size(16)));
+typedef double V4d __attribute__((vector_size(32)));
+
+// One step of z <- z² + k on the squares sx = x², sy = y² of the current point: the only place
+// the step is written. T is double or a vector of doubles; each operation is one IEEE
+// operation in the written order (the build forbids contraction), so a lane computes exactly
+// what the scalar loop computes.
+template <class T>
+[[gnu::always_inline]] inline void PassoQuadratico(T& x, T& y, const T& sx, const T& sy,
+                                                   const T& C, const T& D)
+{
+    y = 2.0 * x * y + D;
+    x = sx - sy + C;
+}
+
+// The escape test of one step for a vector of lanes: a lane runs while every test so far found
+// r < 4 (`vivo`, all ones or all zeros per lane); a running lane counts one step more. Returns
+// the bits of the lanes still running.
+template <class Vd>
+[[gnu::always_inline]] inline int Testar(const Vd& r, Vd& vivo, Vd& n, const Vd& quatro,
+                                         const Vd& um)
+{
+    using Vl = decltype(Vd{} < Vd{});
+    const Vl m = reinterpret_cast<Vl>(vivo) & (r < quatro);
+    vivo = reinterpret_cast<Vd>(m);
+    n += reinterpret_cast<Vd>(m & reinterpret_cast<Vl>(um));
+    int bits = 0;
+    for (unsigned e = 0; e < sizeof(Vd) / sizeof(double); ++e)
+        bits |= int(m[e] & 1) << e;
+    return bits;
+}
+
+#ifdef LUMERINA_X86
+// Two lanes spelt with SSE2 intrinsics: without SSE4.1, GCC lowers two-lane masks badly.
+[[gnu::always_inline]] inline int Testar(const V2d& r, V2d& vivo, V2d& n, const V2d& quatro,
+                                         const V2d& um)
+{
+    vivo = _mm_and_pd(vivo, _mm_cmplt_pd(r, quatro));
+    n = _mm_add_pd(n, _mm_and_pd(vivo, um));
+    return _mm_movemask_pd(vivo);
+}
+#endif
+
+// Counts of up to G·E points of one column, one per lane, started together. At step t every
+// running lane has n = t, so "n < N" bounds the loop; a lane whose test failed stays stopped
+// and goes on stepping unseen. The test of step t is made on the squares kept from the step
+// before (the lag); the squares for the next test are those of the point this step starts
+// from. Lanes from `quantos` on never run.
+#if defined(__GNUC__) && !defined(__clang__)
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
+#endif
+template <class Vd, int G>
+[[gnu::always_inline]] inline void Bloco(double px, const double* pys, int quantos, double C,
+                                         double D, int limite, double* ns)
+{
+    constexpr int E = sizeof(Vd) / sizeof(double);
+    const double todosUns = std::bit_cast<double>(~std::uint64_t{0});
+    Vd x[G], y[G], sx[G], sy[G], n[G], vivo[G], quatro, um, vc, vd;
+    for (int e = 0; e < E; ++e)
+        quatro[e] = 4.0, um[e] = 1.0, vc[e] = C, vd[e] = D;
+    for (int g = 0; g < G; ++g) {
+        for (int e = 0; e < E; ++e) {
+            const int k = g * E + e;
+            x[g][e] = px;
+            y[g][e] = k < quantos ? pys[k] : 0.0;
+            vivo[g][e] = k < quantos ? todosUns : 0.0;
+        }
+        sx[g] = x[g] * x[g];
+        sy[g] = y[g] * y[g];
+        n[g] = Vd{};
+    }
+    for (int t = 0; t < limite; ++t) {
+        int correm = 0;
+#pragma GCC unroll 4
+        for (int g = 0; g < G; ++g)
+            correm |= Testar(sx[g] + sy[g], vivo[g], n[g], quatro, um);
+        if (correm == 0)
+            break;
+#pragma GCC unroll 4
+        for (int g = 0; g < G; ++g) {
+            sx[g] = x[g] * x[g];
+            sy[g] = y[g] * y[g];
+            PassoQuadratico(x[g], y[g], sx[g], sy[g], vc, vd);
+        }
+    }
+    std::memcpy(ns, n, sizeof n);
+}
+#if defined(__GNUC__) && !defined(__clang__)
+#pragma GCC diagnostic pop
+#endif
+
+template <class Vd, int G>
+[[gnu::always_inline]] inline void Coluna(const VistaJulia& vista, int i, double C, double D,
+                                          int limite, int* contagens)
+{
+    constexpr int L = G * sizeof(Vd) / sizeof(double);
+    const double px = ColunaX(vista, i);
+    alignas(64) double ys[L], ns[L];
+    for (int j0 = 0; j0 <= vista.H; j0 += L) {
+        const int quantos = vista.H + 1 - j0 < L ? vista.H + 1 - j0 : L;
+        for (int k = 0; k < quantos; ++k)
+            ys[k] = LinhaY(vista, j0 + k);
+        Bloco<Vd, G>(px, ys, quantos, C, D, limite, ns);
+        for (int k = 0; k < quantos; ++k)
+            contagens[j0 + k] = int(ns[k]);
+    }
+}
+
+void ColunaSse2(const VistaJulia& vista, int i, double C, double D, int limite, int* contagens)
+{
+    Coluna<V2d, 2>(vista, i, C, D, limite, contagens);
+}
+
+#ifdef LUMERINA_X86
+[[gnu::target("avx2")]] void ColunaAvx2(const VistaJulia& vista, int i, double C, double D,
+                                        int limite, int* contagens)
+{
+    Coluna<V4d, 2>(vista, i, C, D, limite, contagens);
+}
+#endif
+
+int ParaInteiro(double v)
+{
+    if (!(v > 0))  // negative, zero or NaN
+        return 0;
+    return v >= double(INT_MAX) ? INT_MAX : int(v);
+}
+
+// The three transcendental steps; each returns true when the point has escaped.
+bool PassoSeno(double& x, double& y, double C, double D)
+{
+    const double e1 = std::exp(y), e2 = std::exp(-y);
+    const double a = std::sin(x) * (e2 + e1) / 2;
+    const double b = std::cos(x) * (e1 - e2) / 2;
+    x = a * C - b * D;
+    y = b * C + a * D;
+    return std::fabs(y) > 10;
+}
+
+bool PassoCoseno(double& x, double& y, double C, double D)
+{
+    const double e1 = std::exp(y), e2 = std::exp(-y);
+    const double a = std::cos(x) * (e2 + e1) / 2;
+    const double b = std::sin(x) * (e1 - e2) / 2;
+    x = a * C + b * D;
+    y = a * D - b * C;
+    return std::fabs(y) > 10;
+}
+
+bool PassoExp(double& x, double& y, double C, double D)
+{
+    const double e = std::exp(x), c = std::cos(y), s = std::sin(y);
+    x = e * (C * c - D * s);
+    y = e * (C * s + D * c);
+    return x > 20;
+}
+
+template <bool (*Passo)(double&, double&, double, double), bool Fuga>
+void ColunaPassos(const VistaJulia& vista, int i, double C, double D, int passos, int* contagens)
+{
+    const double px = ColunaX(vista, i);
+    for (int j = 0; j <= vista.H; ++j) {
+        double x = px, y = LinhaY(vista, j);
+        int n = 0;
+        for (int passo = 1; passo <= passos; ++passo) {
+            const bool fugiu = Passo(x, y, C, D);
+            if (Fuga) {
+                if (fugiu) {
+                    n = passo;
+                    break;
+                }
+            } else {
+                n = passo;
+                if (fugiu)
+                    break;
+            }
+        }
+        contagens[j] = n;
+    }
+}
+
+}  // namespace
+
+double ColunaX(const VistaJulia& vista, int i)
+{
+    return vista.xmin + i * (vista.xmax - vista.xmin) / (vista.W - 1);
+}
+
+double LinhaY(const VistaJulia& vista, int j)
+{
+    return vista.ymin + j * (vista.ymax - vista.ymin) / (vista.H - 1);
+}
+
+int LimiteContagem(double N) { return ParaInteiro(std::ceil(N)); }
+int LimitePassos(double N) { return ParaInteiro(std::floor(N)); }
+
+void ColunaJulia(const VistaJulia& vista, int i, double C, double D, int limite, int* contagens,
+                 InstrucoesVectoriais instrucoes)
+{
+#ifdef LUMERINA_X86
+    if (instrucoes == InstrucoesVectoriais::Avx2)
+        return ColunaAvx2(vista, i, C, D, limite, contagens);
+#else
+    (void)instrucoes;
+#endif
+    ColunaSse2(vista, i, C, D, limite, contagens);
+}
+
+void ColunaJulia(const VistaJulia& vista, int i, double C, double D, int limite, int* contagens)
+{
+    ColunaJulia(vista, i, C, D, limite, contagens, MelhoresInstrucoes());
+}
+
+void ColunaTranscendente(FamiliaTranscendente familia, const VistaJulia& vista, int i, double C,
+                         double D, int passos, int* contagens)
+{
+    switch (familia) {
+    case FamiliaTranscendente::Seno:
+        return ColunaPassos<PassoSeno, false>(vista, i, C, D, passos, contagens);
+    case FamiliaTranscendente::Coseno:
+        return ColunaPassos<PassoCoseno, false>(vista, i, C, D, passos, contagens);
+    case FamiliaTranscendente::Exp:
+        return ColunaPassos<PassoExp, true>(vista, i, C, D, passos, contagens);
+    }
+}
+
+void CoresColunaJulia(FamiliaJulia familia, ColoracaoJulia coloracao, const int* contagens,
+                      double N, int i, int H, Cor corA, Cor corB, Cor* cores)
+{
+    for (int j = 0; j <= H; ++j) {
+        const int n = contagens[j];
+        Cor cor = kSemCor;
+        if (familia == FamiliaJulia::Exp) {
+            if (n > 0 && coloracao == ColoracaoJulia::LinhasTipo2)
+                cor = CorRGB(std::abs(i - j) % 255, std::abs(j - 18) % 255, (i + j) % 255);
+            else if (n > 0 && coloracao == ColoracaoJulia::SemLinhas)
+                cor = Paleta16[n % 15];
+        } else if (coloracao == ColoracaoJulia::LinhasTipo2) {
+            cor = familia == FamiliaJulia::Normal && Atingiu(n, N) ? Paleta16[9] : Paleta16[n % 16];
+        } else if (coloracao == ColoracaoJulia::SemLinhas) {
+            cor = Atingiu(n, N) ? corB : corA;
+        }
+        cores[j] = cor;
+    }
+}
+
+void PassoInverso(double& x, double& y, double C, double D)
+{
+    constexpr double p = 3.14159;
+    const double u = x - C, v = y - D;
+    double a;
+    if (u == 0)
+        a = p / 2;
+    else if (u > 0)
+        a = std::atan(v / u);
+    else
+        a = std::atan(v / u) + p;
+    const double r = std::sqrt(std::sqrt(u * u + v * v));
+    const int m = int(2 * Aleatorio() + 1);
+    a = a / 2 + p * m;
+    x = r * std::cos(a);
+    y = r * std::sin(a);
+}
+
+}  // namespace lumerina
