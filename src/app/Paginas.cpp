@@ -4,6 +4,7 @@
 #include "app/Aplicacao.h"
 #include "app/PaginaInformacao.h"
 #include "app/PaginaInicial.h"
+#include "complex/PaginaJulia.h"
 #include "complex/PaginaMandelbrot.h"
 #include "geometric/PaginaIFS.h"
 #include "dynamics/PaginaAtractores.h"
@@ -45,6 +46,8 @@ std::array<QPointer<QWidget>, kNumeroPaginas + 1>& Instancias()
 QWidget* Criar(int numero)
 {
     switch (numero) {
+    case Form::Julia:
+        return new PaginaJulia(Descricao(numero));
     case Form::Mandelbrot:
         return new PaginaMandelbrot(Descricao(numero));
     case Form::IFS:
