@@ -55,7 +55,6 @@ void ColunaTranscendente(FamiliaTranscendente familia, const VistaJulia& vista, 
 
 // How a column of counts becomes colours. A pixel that is not drawn gets kSemCor (it keeps
 // the picture's background).
-constexpr Cor kSemCor = 0;
 enum class ColoracaoJulia {
     Nenhuma,      // neither option selected: nothing is drawn
     LinhasTipo2,  // "Com cores em tempo de escape"

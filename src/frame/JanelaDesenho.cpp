@@ -225,10 +225,11 @@ void JanelaDesenho::PrepararDesenho()
 }
 
 bool JanelaDesenho::DesenharPorColunas(const ColunaCores& colorir,
-                                       const std::function<void()>& aposCeder)
+                                       const std::function<void()>& aposCeder,
+                                       EscritaColunas escrita)
 {
     SessaoDesenho sessao(*this);
-    if (!DesenharColunas(*imagem_, W_, H_, colorir, aposCeder))
+    if (!DesenharColunas(*imagem_, W_, H_, colorir, aposCeder, escrita))
         return false;
     sessao.Concluir();
     return true;

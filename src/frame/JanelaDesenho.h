@@ -99,7 +99,8 @@ public:
     // A whole escape-time drawing over W and H: the drawing session, the column loop
     // (DesenharColunas) and, when it completes, the world scale and the drawn flag. False
     // when the program ended during it.
-    bool DesenharPorColunas(const ColunaCores& colorir, const std::function<void()>& aposCeder = {});
+    bool DesenharPorColunas(const ColunaCores& colorir, const std::function<void()>& aposCeder = {},
+                            EscritaColunas escrita = {});
     // Upper-left (Xmin, Ymax), lower-right (Xmax, Ymin): mouse positions become world points.
     void DefinirEscalaMundo();
 
