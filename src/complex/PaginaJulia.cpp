@@ -4,10 +4,10 @@
 #include "frame/ControloImagem.h"
 #include "frame/JanelaDesenho.h"
 #include "frame/Plataforma.h"
+#include "frame/SessaoDesenho.h"
 #include "interp/LerValor.h"
 #include "interp/clsEquation.h"
 
-#include <QButtonGroup>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -91,46 +91,22 @@ const ValorK* Slot(int slot)
 // The first slot of each list, Combo1..Combo4; a list holds the slots up to the next one.
 constexpr int kPrimeiroSlot[4] = {1, 30, 40, 50};
 
-QRadioButton* Opcao(QWidget* pai, const char* nome, const char* texto, QRect onde)
-{
-    auto* botao = new QRadioButton(QString::fromUtf8(texto), pai);
-    botao->setObjectName(QString::fromUtf8(nome));
-    botao->setGeometry(onde);
-    return botao;
-}
-
-QPushButton* Botao(QWidget* pai, const char* nome, const char* texto, QRect onde)
-{
-    auto* botao = new QPushButton(QString::fromUtf8(texto), pai);
-    botao->setObjectName(QString::fromUtf8(nome));
-    botao->setGeometry(onde);
-    return botao;
-}
-
-QLabel* Rotulo(QWidget* pai, const char* texto, QRect onde)
-{
-    auto* rotulo = new QLabel(QString::fromUtf8(texto), pai);
-    rotulo->setGeometry(onde);
-    return rotulo;
-}
-
-void MostrarAmostra(QLabel* amostra, const QColor& cor)
-{
-    amostra->setStyleSheet(
-        QStringLiteral("background: %1; border: 1px solid #808080;").arg(cor.name()));
-}
-
-}  // namespace
-
 // What a family option writes into the page: its list, limits, k, N and the caption of the
-// second colouring (nullptr: the field is left as it is).
-struct PaginaJulia::Familia {
+// second colouring (nullptr: the field is left as it is). In the order of the options:
+// "Iteração normal", "Iteração inversa", "k.sen (z)", "k.cos (z)", "k.exp (z)".
+struct Familia {
     int lista;
     const char *xmin, *xmax, *ymin, *ymax, *c, *d, *n, *semLinhas;
 };
-
-namespace {
 const char* const kConjuntoColorido = "Com o conjunto colorido (escolha as cores)";
+const Familia kFamilias[] = {
+    {0, "-1.5", "1.5", "-1.5", "1.5", nullptr, nullptr, "50", kConjuntoColorido},
+    {0, "-2", "2", "-2", "2", nullptr, nullptr, "50000", kConjuntoColorido},
+    {1, "-6.28", "6.28", "-4.75", "4.75", "1", "0.2", "50", kConjuntoColorido},
+    {2, "-6.28", "6.28", "-4.75", "4.75", "0.9876", "0.9876", "50", kConjuntoColorido},
+    {3, "-4", "4", "-4", "3", "3", "3", "50", "Com cores em tempo de escape 2"},
+};
+
 }  // namespace
 
 PaginaJulia::PaginaJulia(const DescricaoPagina& descricao, QWidget* pai)
@@ -144,14 +120,16 @@ PaginaJulia::PaginaJulia(const DescricaoPagina& descricao, QWidget* pai)
 
     janela_ = new JanelaDesenho(this, area, QPoint(8, 8));
 
-    auto* funcao = new QGroupBox(QStringLiteral("Função"), area);
-    funcao->setGeometry(kPainelX, 30, kPainelLargura, 178);
-    iteracaoNormal_ = Opcao(funcao, "IteraçãoNormal", "Iteração normal", {10, 20, 150, 21});
-    iteracaoInversa_ = Opcao(funcao, "IteraçãoInversa", "Iteração inversa", {170, 20, 150, 21});
-    kapaSenoZ_ = Opcao(funcao, "KapaSenoZ", "k.sen (z)", {10, 42, 100, 21});
-    kapaCosenoZ_ = Opcao(funcao, "KapaCosenoZ", "k.cos (z)", {115, 42, 100, 21});
-    kapaExpZ_ = Opcao(funcao, "KapaExpZ", "k.exp (z)", {220, 42, 100, 21});
-    iteracaoNormal_->setChecked(true);
+    QGroupBox* funcao = Quadro(area, "Função", {kPainelX, 30, kPainelLargura, 178});
+    funcao_.Adicionar(funcao, {
+        {"IteraçãoNormal", "Iteração normal", {10, 20, 150, 21}, Funcao::Normal},
+        {"IteraçãoInversa", "Iteração inversa", {170, 20, 150, 21}, Funcao::Inversa},
+        {"KapaSenoZ", "k.sen (z)", {10, 42, 100, 21}, Funcao::Seno},
+        {"KapaCosenoZ", "k.cos (z)", {115, 42, 100, 21}, Funcao::Coseno},
+        {"KapaExpZ", "k.exp (z)", {220, 42, 100, 21}, Funcao::Exp},
+    });
+    for (const auto& [botao, valor] : funcao_.Opcoes())
+        connect(botao, &QRadioButton::clicked, this, [this, f = valor] { EscolherFuncao(f); });
 
     // z² + k, with k = C + D i, written around the two boxes.
     Rotulo(funcao, "z", {10, 72, 10, 22});
@@ -162,13 +140,9 @@ PaginaJulia::PaginaJulia(const DescricaoPagina& descricao, QWidget* pai)
     Rotulo(funcao, "+ k ,", {31, 72, 34, 22});
     Rotulo(funcao, "com", {68, 72, 30, 22});
     Rotulo(funcao, "k =", {100, 72, 24, 22});
-    valorDeC_ = new QLineEdit(QStringLiteral("-0.48"), funcao);
-    valorDeC_->setObjectName(QStringLiteral("ValorDeC"));
-    valorDeC_->setGeometry(126, 70, 78, 24);
+    valorDeC_ = Campo(funcao, "ValorDeC", "-0.48", {126, 70, 78, 24});
     Rotulo(funcao, "+", {208, 72, 10, 22});
-    valorDeD_ = new QLineEdit(QStringLiteral("-0.53"), funcao);
-    valorDeD_->setObjectName(QStringLiteral("ValorDeD"));
-    valorDeD_->setGeometry(222, 70, 78, 24);
+    valorDeD_ = Campo(funcao, "ValorDeD", "-0.53", {222, 70, 78, 24});
     Rotulo(funcao, "i", {304, 72, 10, 22});
 
     Rotulo(funcao, "Valores pré-definidos:", {10, 104, 200, 20});
@@ -186,66 +160,25 @@ PaginaJulia::PaginaJulia(const DescricaoPagina& descricao, QWidget* pai)
         combos_[l] = lista;
     }
 
-    static const Familia kNormal{0, "-1.5", "1.5", "-1.5", "1.5", nullptr, nullptr, "50",
-                                 kConjuntoColorido};
-    static const Familia kInversa{0, "-2", "2", "-2", "2", nullptr, nullptr, "50000",
-                                  kConjuntoColorido};
-    static const Familia kSeno{1, "-6.28", "6.28", "-4.75", "4.75", "1", "0.2", "50",
-                               kConjuntoColorido};
-    static const Familia kCoseno{2, "-6.28", "6.28", "-4.75", "4.75", "0.9876", "0.9876", "50",
-                                 kConjuntoColorido};
-    static const Familia kExp{3, "-4", "4", "-4", "3", "3", "3", "50",
-                              "Com cores em tempo de escape 2"};
-    const std::pair<QRadioButton*, const Familia*> familias[] = {
-        {iteracaoNormal_, &kNormal}, {iteracaoInversa_, &kInversa}, {kapaSenoZ_, &kSeno},
-        {kapaCosenoZ_, &kCoseno},    {kapaExpZ_, &kExp},
-    };
-    auto* grupoFuncao = new QButtonGroup(this);
-    for (const auto& [botao, familia] : familias) {
-        grupoFuncao->addButton(botao);
-        connect(botao, &QRadioButton::clicked, this,
-                [this, botao, familia] {
-                    if (botao == iteracaoNormal_)
-                        janela_->Imagem()->EscalaPixeis();
-                    EscolherFamilia(*familia);
-                });
-    }
-
     janela_->QuadroArea()->setGeometry(kPainelX, 212, kPainelLargura, 78);
     janela_->Xminimo()->setText(QStringLiteral("-1.5"));
     janela_->Xmaximo()->setText(QStringLiteral("1.5"));
     janela_->Yminimo()->setText(QStringLiteral("-1.5"));
     janela_->Ymaximo()->setText(QStringLiteral("1.5"));
 
-    auto* iteracoes = new QGroupBox(QStringLiteral("Iterações"), area);
-    iteracoes->setGeometry(kPainelX, 294, kPainelLargura, 50);
+    QGroupBox* iteracoes = Quadro(area, "Iterações", {kPainelX, 294, kPainelLargura, 50});
     Rotulo(iteracoes, "Número de iterações:", {10, 22, 150, 22});
-    numIteracoes_ = new QLineEdit(QStringLiteral("150"), iteracoes);
-    numIteracoes_->setObjectName(QStringLiteral("NumIterações"));
-    numIteracoes_->setGeometry(165, 20, 80, 24);
+    numIteracoes_ = Campo(iteracoes, "NumIterações", "150", {165, 20, 80, 24});
 
-    auto* cores = new QGroupBox(QStringLiteral("Cores"), area);
-    cores->setGeometry(kPainelX, 348, kPainelLargura, 112);
-    linhasTipo2_ = Opcao(cores, "LinhasTipo2", "Com cores em tempo de escape", {10, 20, 320, 22});
-    semLinhas_ = Opcao(cores, "SemLinhas", kConjuntoColorido, {10, 44, 320, 22});
-    linhasTipo2_->setChecked(true);
-    auto* grupoCores = new QButtonGroup(this);
-    grupoCores->addButton(linhasTipo2_);
-    grupoCores->addButton(semLinhas_);
-    QPushButton* corA = Botao(cores, "Command8", "Cor interior", {10, 74, 100, 28});
-    amostraA_ = new QLabel(cores);
-    amostraA_->setObjectName(QStringLiteral("Label5"));
-    amostraA_->setGeometry(116, 78, 36, 20);
-    QPushButton* corB = Botao(cores, "Command9", "Cor exterior", {172, 74, 100, 28});
-    amostraB_ = new QLabel(cores);
-    amostraB_->setObjectName(QStringLiteral("Label9"));
-    amostraB_->setGeometry(278, 78, 36, 20);
-    corA_ = QColor::fromRgb(Paleta16[14]);
-    corB_ = QColor::fromRgb(Paleta16[9]);
-    MostrarAmostra(amostraA_, corA_);
-    MostrarAmostra(amostraB_, corB_);
-    connect(corA, &QPushButton::clicked, this, &PaginaJulia::EscolherCorA);
-    connect(corB, &QPushButton::clicked, this, &PaginaJulia::EscolherCorB);
+    QGroupBox* cores = Quadro(area, "Cores", {kPainelX, 348, kPainelLargura, 112});
+    coloracao_.Adicionar(cores, {
+        {"LinhasTipo2", "Com cores em tempo de escape", {10, 20, 320, 22}, ColoracaoJulia::LinhasTipo2},
+        {"SemLinhas", kConjuntoColorido, {10, 44, 320, 22}, ColoracaoJulia::SemLinhas},
+    });
+    corA_ = new SeletorCor(cores, "Command8", "Cor interior", {10, 74, 100, 28}, "Label5",
+                           {116, 78, 36, 20}, QColor::fromRgb(Paleta16[14]));
+    corB_ = new SeletorCor(cores, "Command9", "Cor exterior", {172, 74, 100, 28}, "Label9",
+                           {278, 78, 36, 20}, QColor::fromRgb(Paleta16[9]));
 
     janela_->QuadroDimensao()->setGeometry(kPainelX, 464, kPainelLargura, 46);
 
@@ -256,17 +189,19 @@ PaginaJulia::PaginaJulia(const DescricaoPagina& descricao, QWidget* pai)
         b->setGeometry(x, 24, 62, 28);
         x += 64;
     }
-    desenhar_ = Botao(opcoes, "Desenhar", "Desenhar", {x, 24, 70, 28});
-    QPushButton* sair = Botao(opcoes, "Sair", "Sair", {x + 72, 24, 54, 28});
-    janela_->RegistarBotaoDesenho(desenhar_);
-    connect(desenhar_, &QPushButton::clicked, this, &PaginaJulia::CarregarDesenhar);
-    connect(sair, &QPushButton::clicked, this, [this] { FecharPagina(this); });
+    janela_->LigarDesenho(Botao(opcoes, "Desenhar", "Desenhar", {x, 24, 70, 28}),
+                          [this] { CarregarDesenhar(); });
+    connect(Botao(opcoes, "Sair", "Sair", {x + 72, 24, 54, 28}), &QPushButton::clicked, this,
+            [this] { FecharPagina(this); });
 
     janela_->LerLimitesSimples();
 }
 
-void PaginaJulia::EscolherFamilia(const Familia& familia)
+void PaginaJulia::EscolherFuncao(Funcao f)
 {
+    const Familia& familia = kFamilias[static_cast<int>(f)];
+    if (f == Funcao::Normal)
+        janela_->Imagem()->EscalaPixeis();
     for (int l = 0; l < 4; ++l)
         combos_[l]->setVisible(l == familia.lista);
     const std::pair<QLineEdit*, const char*> campos[] = {
@@ -280,7 +215,7 @@ void PaginaJulia::EscolherFamilia(const Familia& familia)
             campo->setText(QString::fromUtf8(texto));
     valorDeC_->setEnabled(true);
     valorDeD_->setEnabled(true);
-    semLinhas_->setText(QString::fromUtf8(familia.semLinhas));
+    coloracao_.Botao(ColoracaoJulia::SemLinhas)->setText(QString::fromUtf8(familia.semLinhas));
 }
 
 void PaginaJulia::EscolherValor(int primeiroSlot, int posicao)
@@ -292,23 +227,9 @@ void PaginaJulia::EscolherValor(int primeiroSlot, int posicao)
     valorDeD_->setText(QString::fromUtf8(v->parteImag));
 }
 
-void PaginaJulia::EscolherCorA()
-{
-    corA_ = Sistema().EscolherCor(this, corA_);
-    MostrarAmostra(amostraA_, corA_);
-}
-
-void PaginaJulia::EscolherCorB()
-{
-    corB_ = Sistema().EscolherCor(this, corB_);
-    MostrarAmostra(amostraB_, corB_);
-}
-
 bool PaginaJulia::ValidarJulia()
 {
-    const auto dizer = [this](const char* texto) {
-        Sistema().Mensagem(this, kTitulo, QString::fromUtf8(texto), IconeMensagem::Informacao);
-    };
+    const auto dizer = [this](const char* texto) { Recusar(this, kTitulo, texto); };
     // Checks 1, 6, 7 and 8 leave the flag as it was: after a successful drawing their
     // message is followed by the drawing, with the values just read.
     for (QLineEdit* campo : {janela_->Xminimo(), janela_->Xmaximo(), janela_->Yminimo(),
@@ -351,7 +272,7 @@ bool PaginaJulia::ValidarJulia()
         dizer("O número de iterações não pode ser negativo.");
         return valido_;
     }
-    if (N_ > 256 && !iteracaoInversa_->isChecked()) {
+    if (N_ > 256 && funcao_.Valor() != Funcao::Inversa) {
         dizer("O número de iterações deve estar compreendido entre 1 e 256.");
         return valido_;
     }
@@ -366,74 +287,56 @@ void PaginaJulia::CarregarDesenhar()
 {
     if (!ValidarJulia())
         return;
-    ControloImagem* imagem = janela_->Imagem();
-    imagem->Limpar();
-    imagem->EscalaPixeis();
-    W_ = imagem->LarguraEscala();
-    H_ = static_cast<int>(std::lround(imagem->AlturaEscala()));
-    // Each selected family is drawn, in this order; an option clicked during one drawing
-    // that comes later in the order is drawn next.
-    const std::pair<QRadioButton*, void (PaginaJulia::*)()> familias[] = {
-        {iteracaoNormal_, &PaginaJulia::DesenharJuliaNormal},
-        {iteracaoInversa_, &PaginaJulia::DesenharJuliaInversa},
-        {kapaSenoZ_, &PaginaJulia::DesenharKapaSeno},
-        {kapaCosenoZ_, &PaginaJulia::DesenharKapaCoseno},
-        {kapaExpZ_, &PaginaJulia::DesenharKapaExp},
-    };
-    for (const auto& [botao, desenhar] : familias) {
+    janela_->PrepararDesenho();
+    // Each selected family is drawn, tested in this order (only one can be selected, but one
+    // chosen during a drawing that comes later in the order is drawn next).
+    for (Funcao f : {Funcao::Normal, Funcao::Inversa, Funcao::Seno, Funcao::Coseno, Funcao::Exp}) {
         if (Sistema().ATerminar())
             return;
-        if (botao->isChecked())
-            (this->*desenhar)();
+        if (funcao_.Valor() != f)
+            continue;
+        switch (f) {
+        case Funcao::Normal: DesenharTempoFuga(FamiliaJulia::Normal); break;
+        case Funcao::Inversa: DesenharJuliaInversa(); break;
+        case Funcao::Seno: DesenharTempoFuga(FamiliaJulia::Seno); break;
+        case Funcao::Coseno: DesenharTempoFuga(FamiliaJulia::Coseno); break;
+        case Funcao::Exp: DesenharTempoFuga(FamiliaJulia::Exp); break;
+        }
     }
 }
 
-ColoracaoJulia PaginaJulia::ColoracaoActual() const
+void PaginaJulia::LerK()
 {
-    if (linhasTipo2_->isChecked())
-        return ColoracaoJulia::LinhasTipo2;
-    if (semLinhas_->isChecked())
-        return ColoracaoJulia::SemLinhas;
-    return ColoracaoJulia::Nenhuma;
+    C_ = LerValor(valorDeC_->text().toStdString());
+    D_ = LerValor(valorDeD_->text().toStdString());
+    janela_->xmin = xmin_;
+    janela_->xmax = xmax_;
+    janela_->ymin = ymin_;
+    janela_->ymax = static_cast<float>(ymax_);
 }
 
 void PaginaJulia::DesenharTempoFuga(FamiliaJulia familia)
 {
     if (!ValidarJulia())
         return;
-    janela_->IniciarDesenho();
-    C_ = LerValor(valorDeC_->text().toStdString());
-    D_ = LerValor(valorDeD_->text().toStdString());
-    const VistaJulia vista{xmin_, xmax_, ymin_, ymax_, W_, H_};
-    const std::size_t linhas = static_cast<std::size_t>(H_) + 1;
-    std::vector<int> contagens(linhas);
-    std::vector<Cor> cores(linhas);
-    ControloImagem* imagem = janela_->Imagem();
-    for (int i = 0; i <= W_; ++i) {
-        if (familia == FamiliaJulia::Normal)
-            ColunaJulia(vista, i, C_, D_, LimiteContagem(N_), contagens.data());
-        else
-            ColunaTranscendente(static_cast<FamiliaTranscendente>(int(familia) - 1), vista, i, C_,
-                                D_, LimitePassos(N_), contagens.data());
-        // The colouring is read once per column: it can only change in a yield.
-        CoresColunaJulia(familia, ColoracaoActual(), contagens.data(), N_, i, H_, corA_.rgb(),
-                         corB_.rgb(), cores.data());
-        if (i < imagem->LarguraPixeis()) {
-            for (int j = 0; j <= H_; ++j) {
-                const int y = LinhaImagem(familia, H_, j);
-                if (cores[j] != kSemCor && y >= 0 && y < imagem->AlturaPixeis())
-                    imagem->Linha(y)[i] = cores[j];
-            }
-            imagem->Sujar(QRect(i, 0, 1, imagem->AlturaPixeis()));
-        }
-        if (!Sistema().Ceder())
-            return;  // the program is ending
-    }
-    janela_->xmin = xmin_;
-    janela_->xmax = xmax_;
-    janela_->ymin = ymin_;
-    janela_->ymax = static_cast<float>(ymax_);
-    janela_->TerminarDesenho();
+    LerK();
+    const VistaJulia vista{xmin_, xmax_, ymin_, ymax_, janela_->W(), janela_->H()};
+    contagens_.assign(static_cast<std::size_t>(vista.H) + 1, 0);
+    const double N = N_;
+    janela_->DesenharPorColunas(
+        [&](int i, Cor* cores) {
+            if (familia == FamiliaJulia::Normal)
+                ColunaJulia(vista, i, C_, D_, LimiteContagem(N), contagens_.data());
+            else
+                ColunaTranscendente(familia == FamiliaJulia::Seno     ? FamiliaTranscendente::Seno
+                                    : familia == FamiliaJulia::Coseno ? FamiliaTranscendente::Coseno
+                                                                      : FamiliaTranscendente::Exp,
+                                    vista, i, C_, D_, LimitePassos(N), contagens_.data());
+            // The colouring option is read once per column: it can only change in a yield.
+            CoresColunaJulia(familia, coloracao_.Valor(), contagens_.data(), N, i, vista.H,
+                             corA_->Cor().rgb(), corB_->Cor().rgb(), cores);
+        },
+        {}, {vista.H - LinhaImagem(familia, vista.H, 0), true});
     if (familia == FamiliaJulia::Seno) {
         valorDeC_->setEnabled(true);
         valorDeD_->setEnabled(true);
@@ -445,19 +348,14 @@ void PaginaJulia::DesenharJuliaInversa()
 {
     if (!ValidarJulia())
         return;
-    janela_->IniciarDesenho();
-    C_ = LerValor(valorDeC_->text().toStdString());
-    D_ = LerValor(valorDeD_->text().toStdString());
+    SessaoDesenho sessao(*janela_);
+    LerK();
     ControloImagem* imagem = janela_->Imagem();
     imagem->Escala(xmin_, ymax_, xmax_, ymin_);
-    const QRgb cor = corB_.rgb();
+    const QRgb cor = corB_->Cor().rgb();
     SemearAleatorioDoRelogio();
     IteracaoInversa(C_, D_, N_, [&](double x, double y) { imagem->Pixel(x, y, cor); });
-    janela_->xmin = xmin_;
-    janela_->xmax = xmax_;
-    janela_->ymin = ymin_;
-    janela_->ymax = static_cast<float>(ymax_);
-    janela_->TerminarDesenho();
+    sessao.Concluir();
 }
 
 }  // namespace lumerina

@@ -4,17 +4,12 @@
 
 #include "app/PaginaBase.h"
 #include "complex/Julia.h"
-
-#include <QColor>
-#include <QString>
+#include "frame/Controlos.h"
 
 #include <vector>
 
 class QComboBox;
-class QLabel;
 class QLineEdit;
-class QPushButton;
-class QRadioButton;
 
 namespace lumerina {
 
@@ -32,46 +27,35 @@ private:
     // The page's checks; false when the drawing must not go on (the valid flag, or an
     // expression the interpreter refused).
     bool ValidarJulia();
-    void DesenharJuliaNormal() { DesenharTempoFuga(FamiliaJulia::Normal); }
-    void DesenharJuliaInversa();
-    void DesenharKapaSeno() { DesenharTempoFuga(FamiliaJulia::Seno); }
-    void DesenharKapaCoseno() { DesenharTempoFuga(FamiliaJulia::Coseno); }
-    void DesenharKapaExp() { DesenharTempoFuga(FamiliaJulia::Exp); }
+    // The five drawings: DesenharJuliaNormal, DesenharKapaSeno, DesenharKapaCoseno and
+    // DesenharKapaExp by escape time, a column at a time; DesenharJuliaInversa.
     void DesenharTempoFuga(FamiliaJulia familia);
-    ColoracaoJulia ColoracaoActual() const;
+    void DesenharJuliaInversa();
+    // C and D as their fields say; the drawing's world rectangle handed to the window.
+    void LerK();
 
-    // Family options and lists.
-    struct Familia;
-    void EscolherFamilia(const Familia& familia);
+    // The family options: what each writes into the page.
+    enum class Funcao { Normal, Inversa, Seno, Coseno, Exp };
+    void EscolherFuncao(Funcao funcao);
     void EscolherValor(int primeiroSlot, int posicao);
-    void EscolherCorA();
-    void EscolherCorB();
 
     JanelaDesenho* janela_ = nullptr;
-    QRadioButton* iteracaoNormal_ = nullptr;
-    QRadioButton* iteracaoInversa_ = nullptr;
-    QRadioButton* kapaSenoZ_ = nullptr;
-    QRadioButton* kapaCosenoZ_ = nullptr;
-    QRadioButton* kapaExpZ_ = nullptr;
+    GrupoOpcoes<Funcao> funcao_;
+    GrupoOpcoes<ColoracaoJulia> coloracao_;
     QLineEdit* valorDeC_ = nullptr;
     QLineEdit* valorDeD_ = nullptr;
     QComboBox* combos_[4] = {};
     QLineEdit* numIteracoes_ = nullptr;
-    QRadioButton* linhasTipo2_ = nullptr;
-    QRadioButton* semLinhas_ = nullptr;
-    QLabel* amostraA_ = nullptr;
-    QLabel* amostraB_ = nullptr;
-    QPushButton* desenhar_ = nullptr;
+    SeletorCor* corA_ = nullptr;  // dialog A, "Cor interior"
+    SeletorCor* corB_ = nullptr;  // dialog B, "Cor exterior"
 
-    // Page state between events.
+    // Page state between events: the limits and N after the checks (all double precision),
+    // k = C + D·i, the valid flag.
     double xmin_ = -1.5, xmax_ = 1.5, ymin_ = -1.5, ymax_ = 1.5;
     double N_ = 150;
     double C_ = 0, D_ = 0;
-    double W_ = 628;
-    int H_ = 628;
     bool valido_ = false;
-    QColor corA_;  // dialog A, "Cor interior"
-    QColor corB_;  // dialog B, "Cor exterior"
+    std::vector<int> contagens_;
 };
 
 }  // namespace lumerina

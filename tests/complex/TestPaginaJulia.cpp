@@ -178,10 +178,13 @@ TEST_F(PaginaJuliaTeste, IteracaoInversaSaltaOs51PrimeirosPontos)
     Texto("NumIterações", "2000");
     Desenhar();
     const QImage& img = imagem->Imagem();
-    for (int y = 0; y < img.height(); ++y)
-        for (int x = 0; x < img.width(); ++x)
-            if (img.pixel(x, y) != kBranco)
+    for (int y = 0; y < img.height(); ++y) {
+        for (int x = 0; x < img.width(); ++x) {
+            if (img.pixel(x, y) != kBranco) {
                 ASSERT_EQ(img.pixel(x, y), qRgb(200, 0, 0)) << x << "," << y;
+            }
+        }
+    }
 }
 
 TEST_F(PaginaJuliaTeste, ValoresPreDefinidosEscrevemCeDSemDesenhar)
