@@ -14,7 +14,9 @@
 #include "app/Aplicacao.h"
 #include "app/PaginaInformacao.h"
 #include "app/Paginas.h"
+#include "complex/PaginaRelacao.h"
 #include "frame/ControloImagem.h"
+#include "frame/Controlos.h"
 #include "frame/Plataforma.h"
 #include "geometric/PaginaLSistemas.h"
 
@@ -65,6 +67,20 @@ int Documentacao(const QString& pasta)
     julia->show();
     julia->findChild<QPushButton*>("Desenhar")->click();
     ok = Guardar(julia, pasta + "/pagina-julia.png") && ok;
+    // The relation page after a click on the Douady rabbit's c, both Julia sets drawn. Its
+    // colours are black until chosen: these stand for a teacher's choice.
+    auto* relacao = static_cast<lumerina::PaginaRelacao*>(lumerina::Pagina(lumerina::Form::Relacao));
+    relacao->show();
+    for (lumerina::SeletorCor* cor : relacao->findChildren<lumerina::SeletorCor*>()) {
+        const QString botao = cor->BotaoEscolher()->objectName();
+        cor->DefinirCor(botao == "Command8" || botao == "Command1" ? QColor(0, 0, 128)
+                                                                   : QColor(255, 244, 200));
+    }
+    relacao->findChild<QPushButton*>("DesenharMandelbrot")->click();
+    relacao->MarcarPonto(-0.123, 0.745);
+    relacao->findChild<QPushButton*>("DesenharJuliaIteraçãoNormal")->click();
+    relacao->findChild<QPushButton*>("DesenharJuliaIteraçãoInversa")->click();
+    ok = Guardar(relacao, pasta + "/pagina-relacao.png") && ok;
     // "Comentários" from the Mandelbrot page opens at its first page on the set.
     mandel->findChild<QAction*>("Comentários")->trigger();
     ok = Guardar(lumerina::Pagina(lumerina::Form::Comentarios), pasta + "/pagina-comentarios.png") && ok;

@@ -6,6 +6,7 @@
 #include "app/PaginaInicial.h"
 #include "complex/PaginaJulia.h"
 #include "complex/PaginaMandelbrot.h"
+#include "complex/PaginaRelacao.h"
 #include "geometric/PaginaIFS.h"
 #include "dynamics/PaginaAtractores.h"
 #include "geometric/PaginaLSistemas.h"
@@ -50,6 +51,8 @@ QWidget* Criar(int numero)
         return new PaginaJulia(Descricao(numero));
     case Form::Mandelbrot:
         return new PaginaMandelbrot(Descricao(numero));
+    case Form::Relacao:
+        return new PaginaRelacao(Descricao(numero));
     case Form::IFS:
         return new PaginaIFS(Descricao(numero));
     case Form::LSistemas:
