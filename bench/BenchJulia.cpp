@@ -1,8 +1,16 @@
 // The Julia kernels over a whole picture (629 x 629 points: the loops run to W and H
-// inclusive) against plain loops of the same work in the same run; time per picture.
+// inclusive), and the Julia page end to end (checks, kernel, colours, picture, a yield per
+// column), against plain loops of the same work in the same run; time per picture.
 
+#include "app/Aplicacao.h"
+#include "app/Paginas.h"
 #include "complex/Julia.h"
 #include "interp/clsEquation.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QWidget>
 
 #include <benchmark/benchmark.h>
 
@@ -138,6 +146,33 @@ void JuliaInversa(benchmark::State& s)
     }
 }
 BENCHMARK(JuliaInversa)->Unit(benchmark::kMillisecond);
+
+// The page at each family's default window and k (the option writes them), N as stated.
+void Pagina(benchmark::State& estado, const char* opcao, const char* n)
+{
+    QWidget* pagina = lumerina::Pagina(Form::Julia);
+    pagina->show();
+    pagina->findChild<QRadioButton*>(QString::fromUtf8(opcao))->click();
+    pagina->findChild<QLineEdit*>(QStringLiteral("NumIterações"))->setText(QString::fromUtf8(n));
+    if (std::string(opcao) == "IteraçãoNormal") {
+        pagina->findChild<QLineEdit*>(QStringLiteral("ValorDeC"))->setText(QStringLiteral("-0.48"));
+        pagina->findChild<QLineEdit*>(QStringLiteral("ValorDeD"))->setText(QStringLiteral("-0.53"));
+    }
+    auto* desenhar = pagina->findChild<QPushButton*>(QStringLiteral("Desenhar"));
+    for (auto _ : estado)
+        desenhar->click();
+    FecharLumerina();
+}
+void PaginaJuliaNormal(benchmark::State& s) { Pagina(s, "IteraçãoNormal", "150"); }
+void PaginaJuliaSeno(benchmark::State& s) { Pagina(s, "KapaSenoZ", "50"); }
+void PaginaJuliaCoseno(benchmark::State& s) { Pagina(s, "KapaCosenoZ", "50"); }
+void PaginaJuliaExp(benchmark::State& s) { Pagina(s, "KapaExpZ", "50"); }
+void PaginaJuliaInversa(benchmark::State& s) { Pagina(s, "IteraçãoInversa", "50000"); }
+BENCHMARK(PaginaJuliaNormal)->Unit(benchmark::kMillisecond);
+BENCHMARK(PaginaJuliaSeno)->Unit(benchmark::kMillisecond);
+BENCHMARK(PaginaJuliaCoseno)->Unit(benchmark::kMillisecond);
+BENCHMARK(PaginaJuliaExp)->Unit(benchmark::kMillisecond);
+BENCHMARK(PaginaJuliaInversa)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace lumerina

@@ -2,6 +2,7 @@
 
 #include "interp/clsEquation.h"
 
+#include <algorithm>
 #include <bit>
 #include <climits>
 #include <cmath>
@@ -247,20 +248,28 @@ void ColunaTranscendente(FamiliaTranscendente familia, const VistaJulia& vista, 
 void CoresColunaJulia(FamiliaJulia familia, ColoracaoJulia coloracao, const int* contagens,
                       double N, int i, int H, Cor corA, Cor corB, Cor* cores)
 {
-    for (int j = 0; j <= H; ++j) {
-        const int n = contagens[j];
-        Cor cor = kSemCor;
-        if (familia == FamiliaJulia::Exp) {
-            if (n > 0 && coloracao == ColoracaoJulia::LinhasTipo2)
-                cor = CorRGB(std::abs(i - j) % 255, std::abs(j - 18) % 255, (i + j) % 255);
-            else if (n > 0 && coloracao == ColoracaoJulia::SemLinhas)
-                cor = Paleta16[n % 15];
-        } else if (coloracao == ColoracaoJulia::LinhasTipo2) {
-            cor = familia == FamiliaJulia::Normal && Atingiu(n, N) ? Paleta16[9] : Paleta16[n % 16];
-        } else if (coloracao == ColoracaoJulia::SemLinhas) {
-            cor = Atingiu(n, N) ? corB : corA;
-        }
-        cores[j] = cor;
+    // The choice is made once per column, not once per pixel.
+    using enum ColoracaoJulia;
+    const bool exp = familia == FamiliaJulia::Exp;
+    if (coloracao == Nenhuma) {
+        std::fill(cores, cores + H + 1, kSemCor);
+    } else if (exp && coloracao == LinhasTipo2) {
+        for (int j = 0; j <= H; ++j)
+            cores[j] = contagens[j] > 0
+                           ? CorRGB(std::abs(i - j) % 255, std::abs(j - 18) % 255, (i + j) % 255)
+                           : kSemCor;
+    } else if (exp) {
+        for (int j = 0; j <= H; ++j)
+            cores[j] = contagens[j] > 0 ? Paleta16[contagens[j] % 15] : kSemCor;
+    } else if (coloracao == SemLinhas) {
+        for (int j = 0; j <= H; ++j)
+            cores[j] = Atingiu(contagens[j], N) ? corB : corA;
+    } else if (familia == FamiliaJulia::Normal) {
+        for (int j = 0; j <= H; ++j)
+            cores[j] = Atingiu(contagens[j], N) ? Paleta16[9] : Paleta16[contagens[j] % 16];
+    } else {
+        for (int j = 0; j <= H; ++j)
+            cores[j] = Paleta16[contagens[j] % 16];
     }
 }
 

@@ -336,7 +336,7 @@ void PaginaJulia::DesenharTempoFuga(FamiliaJulia familia)
             CoresColunaJulia(familia, coloracao_.Valor(), contagens_.data(), N, i, vista.H,
                              corA_->Cor().rgb(), corB_->Cor().rgb(), cores);
         },
-        {}, {vista.H - LinhaImagem(familia, vista.H, 0), true});
+        {}, {vista.H - LinhaImagem(familia, vista.H, 0), familia == FamiliaJulia::Exp});
     if (familia == FamiliaJulia::Seno) {
         valorDeC_->setEnabled(true);
         valorDeD_->setEnabled(true);
