@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <cstring>
 #include <cstdlib>
+#include <vector>
 
 #if defined(__x86_64__) || defined(__i386__)
 #include <immintrin.h>
@@ -110,35 +111,46 @@ template <class Vd, int G>
 #pragma GCC diagnostic pop
 #endif
 
+// The counts of `quantos` start points px + i·ys[k], L at a time.
 template <class Vd, int G>
-[[gnu::always_inline]] inline void Coluna(const VistaJulia& vista, int i, double C, double D,
-                                          int limite, int* contagens)
+[[gnu::always_inline]] inline void Pontos(double px, const double* ys, int quantos, double C,
+                                          double D, int limite, int* contagens)
 {
     constexpr int L = G * sizeof(Vd) / sizeof(double);
-    const double px = ColunaX(vista, i);
-    alignas(64) double ys[L], ns[L];
-    for (int j0 = 0; j0 <= vista.H; j0 += L) {
-        const int quantos = vista.H + 1 - j0 < L ? vista.H + 1 - j0 : L;
-        for (int k = 0; k < quantos; ++k)
-            ys[k] = LinhaY(vista, j0 + k);
-        Bloco<Vd, G>(px, ys, quantos, C, D, limite, ns);
-        for (int k = 0; k < quantos; ++k)
-            contagens[j0 + k] = int(ns[k]);
+    alignas(64) double ns[L];
+    for (int k0 = 0; k0 < quantos; k0 += L) {
+        const int bloco = quantos - k0 < L ? quantos - k0 : L;
+        Bloco<Vd, G>(px, ys + k0, bloco, C, D, limite, ns);
+        for (int k = 0; k < bloco; ++k)
+            contagens[k0 + k] = int(ns[k]);
     }
 }
 
-void ColunaSse2(const VistaJulia& vista, int i, double C, double D, int limite, int* contagens)
+void PontosSse2(double px, const double* ys, int quantos, double C, double D, int limite,
+                int* contagens)
 {
-    Coluna<V2d, 2>(vista, i, C, D, limite, contagens);
+    Pontos<V2d, 2>(px, ys, quantos, C, D, limite, contagens);
 }
 
 #ifdef LUMERINA_X86
-[[gnu::target("avx2")]] void ColunaAvx2(const VistaJulia& vista, int i, double C, double D,
-                                        int limite, int* contagens)
+[[gnu::target("avx2")]] void PontosAvx2(double px, const double* ys, int quantos, double C,
+                                        double D, int limite, int* contagens)
 {
-    Coluna<V4d, 2>(vista, i, C, D, limite, contagens);
+    Pontos<V4d, 2>(px, ys, quantos, C, D, limite, contagens);
 }
 #endif
+
+void ContarPontos(double px, const double* ys, int quantos, double C, double D, int limite,
+                  int* contagens, InstrucoesVectoriais instrucoes)
+{
+#ifdef LUMERINA_X86
+    if (instrucoes == InstrucoesVectoriais::Avx2)
+        return PontosAvx2(px, ys, quantos, C, D, limite, contagens);
+#else
+    (void)instrucoes;
+#endif
+    PontosSse2(px, ys, quantos, C, D, limite, contagens);
+}
 
 int ParaInteiro(double v)
 {
@@ -218,13 +230,53 @@ int LimitePassos(double N) { return ParaInteiro(std::floor(N)); }
 void ColunaJulia(const VistaJulia& vista, int i, double C, double D, int limite, int* contagens,
                  InstrucoesVectoriais instrucoes)
 {
-#ifdef LUMERINA_X86
-    if (instrucoes == InstrucoesVectoriais::Avx2)
-        return ColunaAvx2(vista, i, C, D, limite, contagens);
-#else
-    (void)instrucoes;
-#endif
-    ColunaSse2(vista, i, C, D, limite, contagens);
+    std::vector<double> ys(static_cast<std::size_t>(vista.H) + 1);
+    for (int j = 0; j <= vista.H; ++j)
+        ys[j] = LinhaY(vista, j);
+    ContarPontos(ColunaX(vista, i), ys.data(), vista.H + 1, C, D, limite, contagens, instrucoes);
+}
+
+ImagemJulia::ImagemJulia(const VistaJulia& vista, double C, double D, int limite,
+                         InstrucoesVectoriais instrucoes)
+    : vista_(vista), C_(C), D_(D), limite_(limite), instrucoes_(instrucoes)
+{
+    const int linhas = vista.H + 1;
+    ys_.resize(linhas);
+    espelho_.assign(linhas, -1);
+    for (int j = 0; j < linhas; ++j)
+        ys_[j] = LinhaY(vista, j);
+    for (int j = 0; j < linhas; ++j) {
+        const int e = vista.H - 1 - j;  // the row that mirrors j when the window is symmetric
+        if (e >= 0 && e < linhas && ys_[e] == -ys_[j])
+            espelho_[j] = e;
+    }
+    guardadas_.resize(static_cast<std::size_t>(linhas) * (static_cast<std::size_t>(vista.W) + 1));
+}
+
+void ImagemJulia::Coluna(int i, int* contagens)
+{
+    const int linhas = vista_.H + 1;
+    const double px = ColunaX(vista_, i);
+    const int e = static_cast<int>(vista_.W) - 1 - i;  // the column that may mirror i
+    const bool espelhada = e >= 0 && e < i && ColunaX(vista_, e) == -px;
+    // The rows that must be counted, their start points gathered.
+    filaJ_.clear();
+    filaY_.clear();
+    for (int j = 0; j < linhas; ++j) {
+        if (espelhada && espelho_[j] >= 0) {
+            contagens[j] = guardadas_[static_cast<std::size_t>(e) * linhas + espelho_[j]];
+        } else {
+            filaJ_.push_back(j);
+            filaY_.push_back(ys_[j]);
+        }
+    }
+    filaN_.resize(filaJ_.size());
+    ContarPontos(px, filaY_.data(), static_cast<int>(filaY_.size()), C_, D_, limite_,
+                 filaN_.data(), instrucoes_);
+    for (std::size_t k = 0; k < filaJ_.size(); ++k)
+        contagens[filaJ_[k]] = filaN_[k];
+    if ((static_cast<std::size_t>(i) + 1) * linhas <= guardadas_.size())
+        std::copy(contagens, contagens + linhas, &guardadas_[static_cast<std::size_t>(i) * linhas]);
 }
 
 void ColunaJulia(const VistaJulia& vista, int i, double C, double D, int limite, int* contagens)

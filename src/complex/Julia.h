@@ -10,6 +10,8 @@
 #include "complex/TempoFuga.h"
 #include "frame/EsquemaCores.h"
 
+#include <vector>
+
 namespace lumerina {
 
 struct VistaJulia {
@@ -40,6 +42,29 @@ inline bool Atingiu(int n, double N) { return double(n) == N; }
 void ColunaJulia(const VistaJulia& vista, int i, double C, double D, int limite, int* contagens);
 void ColunaJulia(const VistaJulia& vista, int i, double C, double D, int limite, int* contagens,
                  InstrucoesVectoriais instrucoes);
+
+// The counts of one whole picture of z² + k, a column at a time, the same counts as
+// ColunaJulia's. z and −z have the same orbit from the first step on (the step squares x and
+// y, and 2·x·y keeps its sign, exactly, in floating point too), so a start point that is
+// exactly the negative of one already counted takes its count: in a window symmetric about 0,
+// much of the right half. Columns come in increasing order, as a picture is drawn.
+class ImagemJulia {
+public:
+    ImagemJulia(const VistaJulia& vista, double C, double D, int limite,
+                InstrucoesVectoriais instrucoes = MelhoresInstrucoes());
+    void Coluna(int i, int* contagens);  // contagens[j] for j = 0..H
+
+private:
+    VistaJulia vista_;
+    double C_, D_;
+    int limite_;
+    InstrucoesVectoriais instrucoes_;
+    std::vector<double> ys_;     // the rows' start points
+    std::vector<int> espelho_;   // the row whose y is exactly -y, or -1
+    std::vector<int> guardadas_; // the counts of the columns drawn so far
+    std::vector<int> filaJ_, filaN_;
+    std::vector<double> filaY_;
+};
 
 enum class FamiliaTranscendente { Seno, Coseno, Exp };
 

@@ -323,10 +323,11 @@ void PaginaJulia::DesenharTempoFuga(FamiliaJulia familia)
     const VistaJulia vista{xmin_, xmax_, ymin_, ymax_, janela_->W(), janela_->H()};
     contagens_.assign(static_cast<std::size_t>(vista.H) + 1, 0);
     const double N = N_;
+    ImagemJulia normal(vista, C_, D_, familia == FamiliaJulia::Normal ? LimiteContagem(N) : 0);
     janela_->DesenharPorColunas(
         [&](int i, Cor* cores) {
             if (familia == FamiliaJulia::Normal)
-                ColunaJulia(vista, i, C_, D_, LimiteContagem(N), contagens_.data());
+                normal.Coluna(i, contagens_.data());
             else
                 ColunaTranscendente(familia == FamiliaJulia::Seno     ? FamiliaTranscendente::Seno
                                     : familia == FamiliaJulia::Coseno ? FamiliaTranscendente::Coseno

@@ -202,8 +202,9 @@ void PaginaRelacao::DesenharJuliaNormal()
     const VistaJulia vista{-kLadoJulia, kLadoJulia, -kLadoJulia, kLadoJulia, double(W), H};
     contagens_.assign(static_cast<std::size_t>(H) + 1, 0);
     SessaoDesenho sessao = Sessao(picture2_);
+    ImagemJulia julia(vista, cx, cy, kIteracoesJulia);
     const bool completo = DesenharColunas(*picture2_, W, H, [&](int i, Cor* cores) {
-        ColunaJulia(vista, i, cx, cy, kIteracoesJulia, contagens_.data());
+        julia.Coluna(i, contagens_.data());
         // Below 150: the exterior colour of the Julia frame; 150: its interior colour.
         const OpcoesCor opcoes{Coloracao::SemLinhas, nullptr, corIntJ_->Cor().rgb(),
                                corExtJ_->Cor().rgb()};

@@ -130,17 +130,28 @@ TEST(Julia, CaminhoRapidoIgualAoCicloSimples)
         {"dust", {-2, 2, -2, 2, 70, 70}, 0.36, 0.1, 150},
         {"N = 1", {-2, 2, -2, 2, 40, 40}, -0.48, -0.53, 1},
         {"relation page", {-1.7, 1.7, -1.7, 1.7, 111, 111}, 0.333, -0.5, 150},
+        // Symmetric windows where rounding leaves only some columns and rows exact mirrors.
+        {"default, even side", {-1.5, 1.5, -1.5, 1.5, 200, 200}, -0.48, -0.53, 150},
+        {"odd side, x = 0 column", {-2, 2, -2, 2, 101, 101}, 0.285, 0.01, 256},
+        {"symmetric in x only", {-1.5, 1.5, -1, 1.3, 90, 77}, -0.8, 0.156, 200},
     };
     for (const Vista& v : vistas) {
         for (const InstrucoesVectoriais ins : Instrucoes()) {
-            int diferentes = 0;
-            std::vector<int> rapida(v.vista.H + 1);
+            // Column by column, and as a whole picture that reuses mirrored points.
+            int diferentes = 0, diferentesImagem = 0;
+            std::vector<int> rapida(v.vista.H + 1), imagem(v.vista.H + 1);
+            ImagemJulia toda(v.vista, v.C, v.D, v.N, ins);
             for (int i = 0; i <= int(v.vista.W); ++i) {
                 ColunaJulia(v.vista, i, v.C, v.D, v.N, rapida.data(), ins);
-                for (int j = 0; j <= v.vista.H; ++j)
-                    diferentes += rapida[j] != Referencia(v.vista, i, j, v.C, v.D, v.N);
+                toda.Coluna(i, imagem.data());
+                for (int j = 0; j <= v.vista.H; ++j) {
+                    const int n = Referencia(v.vista, i, j, v.C, v.D, v.N);
+                    diferentes += rapida[j] != n;
+                    diferentesImagem += imagem[j] != n;
+                }
             }
             EXPECT_EQ(diferentes, 0) << v.nome << ", instruction set " << int(ins);
+            EXPECT_EQ(diferentesImagem, 0) << v.nome << ", instruction set " << int(ins);
         }
     }
 }
