@@ -111,7 +111,21 @@ void JuliaNormalSse2(benchmark::State& s)
     });
 }
 void JuliaNormalCicloSimples(benchmark::State& s) { Imagem(s, kNormal, NormalSimples); }
+// A whole picture, reusing the counts of mirrored start points.
+void JuliaNormalImagem(benchmark::State& s)
+{
+    std::vector<int> n(kNormal.vista.H + 1);
+    for (auto _ : s) {
+        ImagemJulia imagem(kNormal.vista, kNormal.C, kNormal.D, kNormal.N);
+        for (int i = 0; i <= int(kNormal.vista.W); ++i) {
+            imagem.Coluna(i, n.data());
+            benchmark::DoNotOptimize(n.data());
+        }
+        benchmark::ClobberMemory();
+    }
+}
 BENCHMARK(JuliaNormal)->Unit(benchmark::kMillisecond);
+BENCHMARK(JuliaNormalImagem)->Unit(benchmark::kMillisecond);
 BENCHMARK(JuliaNormalSse2)->Unit(benchmark::kMillisecond);
 BENCHMARK(JuliaNormalCicloSimples)->Unit(benchmark::kMillisecond);
 
