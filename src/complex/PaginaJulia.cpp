@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace lumerina {
@@ -312,7 +313,9 @@ void PaginaJulia::LerK()
     janela_->xmin = xmin_;
     janela_->xmax = xmax_;
     janela_->ymin = ymin_;
-    janela_->ymax = static_cast<float>(ymax_);
+    // The window keeps its top in single precision, for the mouse; ours stays double.
+    janela_->ymax = static_cast<float>(std::clamp(ymax_, -double(std::numeric_limits<float>::max()),
+                                                  double(std::numeric_limits<float>::max())));
 }
 
 void PaginaJulia::DesenharTempoFuga(FamiliaJulia familia)

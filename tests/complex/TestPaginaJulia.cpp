@@ -364,6 +364,40 @@ TEST_F(PaginaJuliaTeste, DesenhoCedePorColunaEDesactivaBotoes)
         EXPECT_TRUE(Achar<QWidget>(pagina, nome)->isEnabled()) << nome;
 }
 
+// Whatever is typed, a press of "Desenhar" draws, refuses, or (after a success, with a check
+// that keeps the valid flag) says its message twice and draws: never more, never a crash.
+TEST_F(PaginaJuliaTeste, EntradasEstranhasNaoRebentam)
+{
+    Lado(12);
+    const char* valores[] = {
+        "", " ", "abc", "(", "1,2", "x", "-", "1.5.5", "1e308", "-1e308", "10^300", "1/0",
+        "sqr(-1)", "0", "-0", "2147483648", "257", "1e-320", "0.218)", " - 1.310",
+    };
+    for (const char* familia : {"IteraçãoNormal", "KapaSenoZ", "KapaCosenoZ", "KapaExpZ"}) {
+        Escolher(familia);
+        for (const char* campo : {"Xmínimo", "Ymáximo", "NumIterações", "ValorDeC", "ValorDeD"}) {
+            for (const char* valor : valores) {
+                // A huge count that a kept valid flag lets through would draw for ages.
+                if (std::string(campo) == "NumIterações" && LerValor(valor) > 1000)
+                    continue;
+                Vista("-2", "2", "-2", "2");
+                Texto("NumIterações", "20");
+                Texto("ValorDeC", "0.3");
+                Texto("ValorDeD", "0.5");
+                Texto(campo, valor);
+                sistema->mensagens.clear();
+                janela->desenhado = false;
+                Desenhar();
+                SCOPED_TRACE(std::string(familia) + ", " + campo + " = \"" + valor + "\"");
+                EXPECT_LE(sistema->mensagens.size(), 2u);
+                if (sistema->mensagens.size() == 2u) {
+                    EXPECT_TRUE(janela->desenhado);
+                }
+            }
+        }
+    }
+}
+
 TEST_F(PaginaJuliaTeste, SairFechaAPagina)
 {
     pagina->show();
