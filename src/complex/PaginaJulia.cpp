@@ -18,6 +18,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <utility>
 
 namespace lumerina {
@@ -326,11 +327,13 @@ void PaginaJulia::DesenharTempoFuga(FamiliaJulia familia)
     const VistaJulia vista{xmin_, xmax_, ymin_, ymax_, janela_->W(), janela_->H()};
     contagens_.assign(static_cast<std::size_t>(vista.H) + 1, 0);
     const double N = N_;
-    ImagemJulia normal(vista, C_, D_, familia == FamiliaJulia::Normal ? LimiteContagem(N) : 0);
+    std::optional<ImagemJulia> normal;
+    if (familia == FamiliaJulia::Normal)
+        normal.emplace(vista, C_, D_, LimiteContagem(N));
     janela_->DesenharPorColunas(
         [&](int i, Cor* cores) {
             if (familia == FamiliaJulia::Normal)
-                normal.Coluna(i, contagens_.data());
+                normal->Coluna(i, contagens_.data());
             else
                 ColunaTranscendente(familia == FamiliaJulia::Seno     ? FamiliaTranscendente::Seno
                                     : familia == FamiliaJulia::Coseno ? FamiliaTranscendente::Coseno
