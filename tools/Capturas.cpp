@@ -1,8 +1,8 @@
 // Pictures of the program made by the program itself, on the offscreen platform:
-//   lumerina_capturas docs            the main page, the Mandelbrot page after a drawing,
-//                                     a comments page, the save dialog, the IFS page after
-//                                     the fern, the L-systems page after a Koch island and
-//                                     the attractors page after a Lorenz drawing
+//   lumerina_capturas docs            the main page, the Mandelbrot and Newton pages after a
+//                                     drawing, a comments page, the save dialog, the IFS page
+//                                     after the fern, the L-systems page after a Koch island
+//                                     and the attractors page after a Lorenz drawing
 //   lumerina_capturas paginas PASTA   every information page, one PNG each
 //   lumerina_capturas lsistemas PASTA the L-systems page after each of its sixteen examples
 //   lumerina_capturas ifs PASTA       every system of the IFS page, one picture each
@@ -57,6 +57,11 @@ int Documentacao(const QString& pasta)
     atractores->findChild<QPushButton*>("Desenhar")->click();
     ok = Guardar(atractores, pasta + "/pagina-atractores.png") && ok;
     atractores->hide();
+    QWidget* newton = lumerina::Pagina(lumerina::Form::Newton);
+    newton->show();
+    newton->findChild<QPushButton*>("Newton")->click();
+    ok = Guardar(newton, pasta + "/pagina-newton.png") && ok;
+    newton->hide();
     // "Comentários" from the Mandelbrot page opens at its first page on the set.
     mandel->findChild<QAction*>("Comentários")->trigger();
     ok = Guardar(lumerina::Pagina(lumerina::Form::Comentarios), pasta + "/pagina-comentarios.png") && ok;
