@@ -1,8 +1,15 @@
 // The Newton column kernel over a whole picture (the default view, 628 x 628 pixels, the grid
-// as the page's loops visit it), against the plain scalar loop of the same steps in the same
-// run: the time reported is per picture.
+// as the page's loops visit it), and the page's whole drawing (checks, palette, kernel,
+// colouring, picture, a yield per column), against the plain scalar loop of the same steps in
+// the same run: the time reported is per picture.
 
+#include "app/Paginas.h"
+#include "app/Aplicacao.h"
 #include "complex/MetodoNewton.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QWidget>
 
 #include <benchmark/benchmark.h>
 
@@ -101,6 +108,16 @@ const bool kRegistados = [] {
                 Imagem(s, n, inv, [](double x, const double* ys, int l, int n, auto* i, int* p) {
                     ColunaNewton(x, ys, l, n, i, p, InstrucoesVectoriais::Sse2);
                 });
+            });
+            registar("PaginaNewton" + caso, [n, invertido](benchmark::State& s) {
+                QWidget* pagina = Pagina(Form::Newton);
+                pagina->show();
+                pagina->findChild<QLineEdit*>(QStringLiteral("Expoente"))->setText(QString::number(n));
+                auto* botao = pagina->findChild<QPushButton*>(invertido ? QStringLiteral("Inversa")
+                                                                        : QStringLiteral("Newton"));
+                for (auto _ : s)
+                    botao->click();
+                FecharLumerina();
             });
             registar("NewtonSimples" + caso,
                      [n, inv](benchmark::State& s) { Imagem(s, n, inv, ColunaSimples); });

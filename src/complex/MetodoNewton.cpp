@@ -153,18 +153,25 @@ template <class Vd, int G>
         s[g] = Vl{};
     }
     for (int t = 0; t < kPassosNewton; ++t) {
+        // zⁿ⁻¹ of every group, a product at a time across the groups: their chains of
+        // products are independent and overlap in the processor.
+        Vd qx[G], qy[G];
+        for (int g = 0; g < G; ++g)
+            qx[g] = zx[g], qy[g] = zy[g];
+        for (int k = 1; k < n - 1; ++k) {
+#pragma GCC unroll 4
+            for (int g = 0; g < G; ++g) {
+                const Vd re = qx[g] * zx[g] - qy[g] * zy[g];
+                qy[g] = qx[g] * zy[g] + qy[g] * zx[g];
+                qx[g] = re;
+            }
+        }
 #pragma GCC unroll 4
         for (int g = 0; g < G; ++g) {
             const Vd x = zx[g], y = zy[g];
-            Vd qx = x, qy = y;
-            for (int k = 1; k < n - 1; ++k) {
-                const Vd re = qx * x - qy * y;
-                qy = qx * y + qy * x;
-                qx = re;
-            }
-            const Vd px = qx * x - qy * y, py = qx * y + qy * x;
+            const Vd px = qx[g] * x - qy[g] * y, py = qx[g] * y + qy[g] * x;
             const Vd a = n1 * px + um, b = n1 * py;
-            Vd c = nn * qx, d = nn * qy;
+            Vd c = nn * qx[g], d = nn * qy[g];
             c = c == zero ? guarda : c;
             d = d == zero ? guarda : d;
             const Vd q = c * c + d * d;

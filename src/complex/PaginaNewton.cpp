@@ -207,24 +207,30 @@ void PaginaNewton::Desenhar(bool comInversao)
     const int colunas = static_cast<int>(grelha.xs.size());
     const int linhas = std::min(static_cast<int>(grelha.ys.size()), H + 1);
     passos_.assign(static_cast<std::size_t>(H) + 1, 0);
+    // The colour of each step count under the colouring in force, made again when it changes.
+    Cor tabela[kPassosNewton + 1] = {};
+    CorNewton corDaTabela = cores_.Valor();
+    for (int s = 1; s <= kPassosNewton; ++s)
+        tabela[s] = CorDosPassos(corDaTabela, s, paleta_);
     const auto colorir = [&](int i, Cor* cores) {
-        if (i < colunas)
+        if (i >= colunas)
+            passos_.assign(passos_.size(), 0);
+        else
             ColunaNewton(grelha.xs[i], grelha.ys.data(), linhas, n, inv, passos_.data());
         // The colouring option is read once per column: it can only change in a yield.
-        const CorNewton cor = cores_.Valor();
-        Cor tabela[kPassosNewton + 1];
-        for (int s = 1; s <= kPassosNewton; ++s)
-            tabela[s] = CorDosPassos(cor, s, paleta_);
+        if (const CorNewton cor = cores_.Valor(); cor != corDaTabela) {
+            corDaTabela = cor;
+            for (int s = 1; s <= kPassosNewton; ++s)
+                tabela[s] = CorDosPassos(cor, s, paleta_);
+        }
+        for (int j = 0; j <= H; ++j)
+            cores[j] = tabela[passos_[j]];
+        // A point the loops did not reach, or the centre of the inversion, is left as it was.
         const QImage& antes = imagem->Imagem();
         for (int j = 0; j <= H; ++j) {
-            const int s = i < colunas && j < linhas ? passos_[j] : 0;
-            if (s > 0) {
-                cores[j] = tabela[s];
-            } else {
-                // Not reached by the loops, or the centre of the inversion: left as it was.
-                const int y = H - j;
-                cores[j] = i < antes.width() && y < antes.height() ? antes.pixel(i, y) : 0;
-            }
+            const int y = H - j;
+            if (passos_[j] == 0 && i < antes.width() && y < antes.height())
+                cores[j] = antes.pixel(i, y);
         }
     };
     if (!DesenharColunas(*imagem, W, H, colorir, [&] { n = ReLerGrau(n); }))
