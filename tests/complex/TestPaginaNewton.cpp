@@ -20,6 +20,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QTest>
 
 namespace lumerina::teste {
 namespace {
@@ -63,6 +64,12 @@ protected:
         Achar<QPushButton>(pagina, botao)->click();
     }
     QRgb Pixel(int x, int y) const { return imagem->Imagem().pixel(x, y); }
+    void Enter(const char* campo)
+    {
+        auto* c = Achar<QLineEdit>(pagina, campo);
+        c->setFocus();
+        QTest::keyClick(c, Qt::Key_Return);
+    }
 
     PaginaNewton* pagina = nullptr;
     JanelaDesenho* janela = nullptr;
@@ -240,11 +247,18 @@ TEST_F(Newton, InversaoSemSomarOCentroESaltandoOCentro)
     EXPECT_NE(Pixel(kColuna1 - 1, kLinhaEixo), qRgb(255, 255, 255));
 
     // k = 2 about 0: the grid point 1 starts from 2 (s = 4); the plain drawing there has s = 1.
+    // Enter in a field of the inversion's frame draws with inversion; elsewhere, plainly.
     Texto("Xzero", "0");
     Texto("Factor", "2");
+    pagina->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(pagina));
+    Enter("Factor");
+    EXPECT_EQ(Pixel(kColuna1, kLinhaEixo), Cinzento(80));
+    Enter("Expoente");
+    EXPECT_EQ(Pixel(kColuna1, kLinhaEixo), Cinzento(20));
     Desenhar("Inversa");
     EXPECT_EQ(Pixel(kColuna1, kLinhaEixo), Cinzento(80));
-    Desenhar("Newton");
+    Enter("Ymáximo");
     EXPECT_EQ(Pixel(kColuna1, kLinhaEixo), Cinzento(20));
 }
 
