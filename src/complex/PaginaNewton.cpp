@@ -43,10 +43,11 @@ LeituraGrau LerGrau(const QString& texto, int& grau)
     return LeituraGrau::Aceite;
 }
 
-// A field read leniently, held in single precision (beyond its range, an infinity).
+// A limit field read leniently, held in single precision (beyond its range, an infinity).
+// The typographic minus reads as "-", as the checks read it.
 float LimiteSimples(const QLineEdit* campo)
 {
-    const double v = LerValor(campo->text().trimmed().toStdString());
+    const double v = LerValor(TextoParaInterpretar(campo->text().trimmed()).toStdString());
     constexpr float inf = std::numeric_limits<float>::infinity();
     if (std::fabs(v) > std::numeric_limits<float>::max())
         return v > 0 ? inf : -inf;

@@ -175,6 +175,12 @@ TEST_F(Newton, LimitesRelidosComoNumerosSimples)
     Desenhar();
     EXPECT_NE(imagem->Imagem(), comDois);
 
+    // The typographic minus is a minus here too.
+    Texto("Xmáximo", "2");
+    Texto("Xmínimo", "\u22121");
+    Desenhar();
+    EXPECT_DOUBLE_EQ(janela->xmin, -1);
+
     // The top limit is read in single precision.
     Texto("Ymáximo", "3.1");
     Desenhar();
