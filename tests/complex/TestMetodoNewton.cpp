@@ -180,22 +180,6 @@ TEST(MetodoNewton, GrelhaCaiNosPixeisPelaEscalaDoMundo)
     EXPECT_EQ(decimo.ys, (std::vector<double>{0, 0.25, 0.5, 0.75, 1}));
 }
 
-TEST(MetodoNewton, ColunaNewtonSaltaOPontoNoCentro)
-{
-    // The column x = 0 with rows −1, −0.5, 0, 0.5, 1: the third is the centre of inversion.
-    const std::vector<double> ys{-1, -0.5, 0, 0.5, 1};
-    const InversaoNewton inv{1, 0, 0};
-    for (const InstrucoesVectoriais instrucoes : Instrucoes()) {
-        std::vector<int> passos(ys.size(), -1);
-        ColunaNewton(0, ys.data(), int(ys.size()), 3, &inv, passos.data(), instrucoes);
-        EXPECT_EQ(passos[2], 0);
-        for (std::size_t j : {0u, 1u, 3u, 4u}) {
-            EXPECT_GE(passos[j], 1) << "row " << j;
-            EXPECT_LE(passos[j], kPassosNewton) << "row " << j;
-        }
-    }
-}
-
 // Every point of a few views for degrees 2, 3, 5 and 8, plain and inverted, with both lane
 // widths, against the plain loop: start point (x, y), or k·(x − a)/q, k·(y − b)/q.
 TEST(MetodoNewton, CaminhoRapidoIgualAoCicloSimples)
@@ -298,40 +282,6 @@ TEST(MetodoNewton, VinteColoracoes)
             continue;
         }
         EXPECT_EQ(CorDosPassos(c.cor, c.s, esquema), CorRGB(c.r, c.g, c.b)) << c.porque;
-    }
-}
-
-TEST(MetodoNewton, SoAsOpcoesDePaletaLeemATabela)
-{
-    // Cor 1 … Cor 5 leave the table as it was; every other option fills its own table.
-    using enum CorNewton;
-    const CorNewton semTabela[] = {Cor1, Cor2, Cor3, Cor4, Cor5};
-    for (const CorNewton c : semTabela) {
-        EsquemaCores esquema{};
-        esquema.vermelho[7] = 99;
-        PreencherTabelaNewton(TabelaDaCor(c), esquema);
-        EXPECT_EQ(esquema.vermelho[7], 99) << int(c);
-    }
-    // Entry 1 tells the tables apart: Fogo grey 60, Azul black, Vermelho violet,
-    // Multicor and Roxo from their key rows' lines.
-    struct Caso { CorNewton cores[3]; void (*preencher)(EsquemaCores&); };
-    const Caso casos[] = {
-        {{Fogo, Fogo1, Fogo2}, PreencherFogo},
-        {{Azul, Azul1, Azul2}, PreencherAzul},
-        {{Vermelho, Vermelho1, Vermelho2}, PreencherVermelho},
-        {{Multicor, Multicolor1, Multicolor2}, PreencherMulticor},
-        {{Roxo, Roxo1, Roxo2}, PreencherRoxo},
-    };
-    for (const Caso& caso : casos) {
-        EsquemaCores esperado;
-        caso.preencher(esperado);
-        for (const CorNewton c : caso.cores) {
-            EsquemaCores esquema{};
-            PreencherTabelaNewton(TabelaDaCor(c), esquema);
-            for (int s = 1; s <= kPassosNewton; ++s)
-                ASSERT_EQ(CorDosPassos(c, s, esquema), CorDosPassos(c, s, esperado))
-                    << int(c) << " at s = " << s;
-        }
     }
 }
 

@@ -340,19 +340,6 @@ TEST_F(Newton, UmCliqueDuranteODesenhoNaoComecaOutro)
     EXPECT_TRUE(janela->desenhado);
 }
 
-TEST_F(Newton, AbandonarAMeioDoDesenho)
-{
-    sistema->aoCeder = [&](int vez) {
-        if (vez == 3)
-            sistema->PedirFim();
-    };
-    Desenhar();
-    EXPECT_EQ(sistema->cedencias, 3);
-    EXPECT_FALSE(janela->desenhado);
-    EXPECT_FALSE(sistema->cursorEspera);
-    sistema->RetomarDepoisDoFim();
-}
-
 TEST_F(Newton, EntradasEstranhasNaoRebentam)
 {
     // Limits the lenient reading turns into an empty, reversed or overflowing rectangle, and
