@@ -134,7 +134,7 @@ template <class Vd, int G>
     using Vl = MascaraDe<Vd>;
     constexpr int E = sizeof(Vd) / sizeof(double);
     Vd zx[G], zy[G], um, n1, nn, tol, guarda, zero;
-    Vl s[G], vivo[G];
+    Vl s[G], vivo[G], semSinal;
     for (int e = 0; e < E; ++e) {
         um[e] = 1.0;
         n1[e] = n - 1.0;
@@ -142,6 +142,7 @@ template <class Vd, int G>
         tol[e] = kToleranciaNewton;
         guarda[e] = 0.001;
         zero[e] = 0.0;
+        semSinal[e] = 0x7FFF'FFFF'FFFF'FFFFLL;
     }
     for (int g = 0; g < G; ++g) {
         for (int e = 0; e < E; ++e) {
@@ -179,7 +180,10 @@ template <class Vd, int G>
             const Vd dx = x - nx, dy = y - ny;
             zx[g] = nx;
             zy[g] = ny;
-            const Vl assente = (dx <= tol) & (dx >= -tol) & (dy <= tol) & (dy >= -tol);
+            // |Δ| ≤ 0.001 with the sign bit cleared: the very test fabs makes.
+            const Vd ax = reinterpret_cast<Vd>(reinterpret_cast<Vl>(dx) & semSinal);
+            const Vd ay = reinterpret_cast<Vd>(reinterpret_cast<Vl>(dy) & semSinal);
+            const Vl assente = (ax <= tol) & (ay <= tol);
             s[g] -= vivo[g];  // a running lane's mask is -1
             vivo[g] &= ~assente;
         }
