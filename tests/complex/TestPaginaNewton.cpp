@@ -17,6 +17,7 @@
 #include "support/PlataformaGravadora.h"
 
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -64,6 +65,18 @@ protected:
         Achar<QPushButton>(pagina, botao)->click();
     }
     QRgb Pixel(int x, int y) const { return imagem->Imagem().pixel(x, y); }
+    // A left-button drag between two pixels of the picture.
+    void Arrastar(QPoint de, QPoint ate)
+    {
+        const auto rato = [this](QEvent::Type tipo, QPoint p, Qt::MouseButton b, Qt::MouseButtons bs) {
+            const QPointF onde = imagem->contentsRect().topLeft() + p;
+            QMouseEvent e(tipo, onde, imagem->mapToGlobal(onde), b, bs, Qt::NoModifier);
+            QCoreApplication::sendEvent(imagem, &e);
+        };
+        rato(QEvent::MouseButtonPress, de, Qt::LeftButton, Qt::LeftButton);
+        rato(QEvent::MouseMove, ate, Qt::NoButton, Qt::LeftButton);
+        rato(QEvent::MouseButtonRelease, ate, Qt::LeftButton, Qt::NoButton);
+    }
     void Enter(const char* campo)
     {
         auto* c = Achar<QLineEdit>(pagina, campo);
@@ -168,7 +181,13 @@ TEST_F(Newton, LimitesRelidosComoNumerosSimples)
     EXPECT_TRUE(sistema->mensagens.empty());
     EXPECT_EQ(imagem->Imagem(), comDois);
     EXPECT_DOUBLE_EQ(janela->xmax, 2);
-    EXPECT_DOUBLE_EQ(imagem->EscalaX(kLado), 2);  // the zoom box measures what was drawn
+    // The zoom box measures what was drawn: pixel 16 is −1 + 16·3/32, not −1 + 16·7.28…/32.
+    Arrastar({16, 16}, {0, 0});
+    EXPECT_EQ(Achar<QLineEdit>(pagina, "Xmínimo")->text(), "-1");
+    EXPECT_EQ(Achar<QLineEdit>(pagina, "Xmáximo")->text(), "0.5");
+    EXPECT_EQ(Achar<QLineEdit>(pagina, "Ymínimo")->text(), "1");
+    EXPECT_EQ(Achar<QLineEdit>(pagina, "Ymáximo")->text(), "3");
+    Vista("-1", "2*pi", "-1", "3");
 
     janela->ApagarGrafico();
     Texto("Xmáximo", "6.2832");
