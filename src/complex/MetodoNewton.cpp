@@ -166,6 +166,20 @@ template <class Vd, int G>
                 qy[g] = qx[g] * zy[g] + qy[g] * zx[g];
                 qx[g] = re;
             }
+            // A power that has come to 0 + 0i (of whatever signs) or holds a part that is not
+            // a number stays so under further products, and the step made from it is the
+            // same: the numerator becomes 1 ± 0i or not a number, the guarded divisor 0.001 +
+            // 0.001i or not a number. Once every running lane is there, the products left are
+            // skipped. This keeps a huge degree from taking hours a column; below degree 18
+            // the test never runs.
+            if ((k & 15) == 0) {
+                Vl seguir{};
+                for (int g = 0; g < G; ++g)
+                    seguir |= vivo[g] & ~((qx[g] == zero) & (qy[g] == zero)) & (qx[g] == qx[g]) &
+                              (qy[g] == qy[g]);
+                if (!AlgumLigado(seguir))
+                    break;
+            }
         }
 #pragma GCC unroll 4
         for (int g = 0; g < G; ++g) {

@@ -234,6 +234,31 @@ TEST(MetodoNewton, CaminhoRapidoIgualAoCicloSimples)
     }
 }
 
+// Large degrees: most powers overflow to no number or fall to 0 long before the last product,
+// and the vector path stops multiplying once all its running lanes are there.
+TEST(MetodoNewton, GrausAltosIguaisAoCicloSimples)
+{
+    struct Vista { float xmin, xmax, ymin, ymax; double lado; };
+    const Vista vistas[] = {{-3, 3, -3, 3, 12}, {0.9f, 1.1f, -0.1f, 0.1f, 12}, {-1, 1, -1, 1, 9}};
+    for (const Vista& v : vistas) {
+        const GrelhaNewton g = CriarGrelhaNewton(v.xmin, v.xmax, v.ymin, v.ymax, v.lado, v.lado);
+        for (const int n : {40, 300}) {
+            for (const InstrucoesVectoriais instrucoes : Instrucoes()) {
+                int diferentes = 0;
+                for (const double x : g.xs) {
+                    std::vector<int> rapida(g.ys.size());
+                    ColunaNewton(x, g.ys.data(), int(g.ys.size()), n, nullptr, rapida.data(),
+                                 instrucoes);
+                    for (std::size_t j = 0; j < g.ys.size(); ++j)
+                        diferentes += rapida[j] != PassosNewton(x, g.ys[j], n);
+                }
+                EXPECT_EQ(diferentes, 0) << "view from " << v.xmin << ", degree " << n
+                                         << ", lanes " << int(instrucoes);
+            }
+        }
+    }
+}
+
 TEST(MetodoNewton, VinteColoracoes)
 {
     using enum CorNewton;
