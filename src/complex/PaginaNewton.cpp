@@ -37,8 +37,7 @@ LeituraGrau LerGrau(const QString& texto, int& grau)
     if (n <= 1)
         return LeituraGrau::NaoMaiorQueUm;
     // For a text these checks accept, the lenient reading the steps use gives this same
-    // number. A degree past the range of int is held as the largest int: either would keep
-    // a column busy for hours.
+    // number. A degree past the range of int is held as the largest int.
     grau = n < INT_MAX ? static_cast<int>(n) : INT_MAX;
     return LeituraGrau::Aceite;
 }
