@@ -13,8 +13,8 @@
 
 #include <algorithm>
 #include <climits>
-#include <iterator>
 #include <cmath>
+#include <iterator>
 #include <limits>
 
 namespace lumerina {
