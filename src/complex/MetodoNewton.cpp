@@ -255,7 +255,7 @@ void ColunaSse2(double x, const double* ys, int linhas, int n, const InversaoNew
 [[gnu::target("avx2")]] void ColunaAvx2(double x, const double* ys, int linhas, int n,
                                         const InversaoNewton* inversao, int* passos)
 {
-    Coluna<V4d, 2>(x, ys, linhas, n, inversao, passos);
+    Coluna<V4d, 3>(x, ys, linhas, n, inversao, passos);
 }
 #endif
 
