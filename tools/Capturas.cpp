@@ -3,7 +3,7 @@
 //                                     a comments page, the save dialog, the IFS page after
 //                                     the fern, the L-systems page after a Koch island,
 //                                     the attractors page after a Lorenz drawing, and the
-//                                     Julia and relation pages
+//                                     Julia, relation and Newton pages
 //   lumerina_capturas paginas PASTA   every information page, one PNG each
 //   lumerina_capturas lsistemas PASTA the L-systems page after each of its sixteen examples
 //   lumerina_capturas ifs PASTA       every system of the IFS page, one picture each
@@ -82,6 +82,11 @@ int Documentacao(const QString& pasta)
     relacao->findChild<QPushButton*>("DesenharJuliaIteraçãoNormal")->click();
     relacao->findChild<QPushButton*>("DesenharJuliaIteraçãoInversa")->click();
     ok = Guardar(relacao, pasta + "/pagina-relacao.png") && ok;
+    QWidget* newton = lumerina::Pagina(lumerina::Form::Newton);
+    newton->show();
+    newton->findChild<QPushButton*>("Newton")->click();
+    ok = Guardar(newton, pasta + "/pagina-newton.png") && ok;
+    newton->hide();
     // "Comentários" from the Mandelbrot page opens at its first page on the set.
     mandel->findChild<QAction*>("Comentários")->trigger();
     ok = Guardar(lumerina::Pagina(lumerina::Form::Comentarios), pasta + "/pagina-comentarios.png") && ok;

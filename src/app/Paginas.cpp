@@ -7,6 +7,7 @@
 #include "complex/PaginaJulia.h"
 #include "complex/PaginaMandelbrot.h"
 #include "complex/PaginaRelacao.h"
+#include "complex/PaginaNewton.h"
 #include "geometric/PaginaIFS.h"
 #include "dynamics/PaginaAtractores.h"
 #include "geometric/PaginaLSistemas.h"
@@ -61,6 +62,8 @@ QWidget* Criar(int numero)
         return new PaginaAtractores(Descricao(numero));
     case Form::Inicial:
         return new PaginaInicial(Descricao(numero));
+    case Form::Newton:
+        return new PaginaNewton(Descricao(numero));
     case Form::Instrucoes:
         return new PaginaInformacao(LivroInstrucoes(), PaginaInstrucoes);
     case Form::Comentarios:

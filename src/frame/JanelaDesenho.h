@@ -46,6 +46,8 @@ public:
         int altura = 628;
         bool limites = true;      // the frame "Área de desenho"
         bool barras = true;       // HScroll1 / VScroll1 and "Dimensão da janela"
+        // Captions of Xmínimo, Xmáximo, Ymínimo, Ymáximo; a longer one narrows its field.
+        const char* rotulosLimites[4] = {"Xmín", "Xmáx", "Ymín", "Ymáx"};
     };
 
     // `pagina` is the top-level page (dialog owner, hourglass); the controls are created as

@@ -114,6 +114,23 @@ TEST_F(Kit, SessaoSemConclusaoDevolveTudoESemMundo)
     EXPECT_TRUE(imagem->EmPixeis());
 }
 
+// A page whose buttons stay live while it draws: the hourglass and the one-drawing rule
+// still hold, and a completed drawing still gives the picture its world.
+TEST_F(Kit, SessaoComBotoesActivos)
+{
+    {
+        SessaoDesenho sessao(*janela, SessaoDesenho::Botoes::Activos);
+        EXPECT_TRUE(SessaoDesenho::EmCurso());
+        EXPECT_TRUE(sistema->cursorEspera);
+        for (QPushButton* b : janela->BotoesDesactivados())
+            EXPECT_TRUE(b->isEnabled()) << b->objectName().toStdString();
+        sessao.Concluir();
+    }
+    EXPECT_FALSE(sistema->cursorEspera);
+    EXPECT_TRUE(janela->desenhado);
+    EXPECT_FALSE(imagem->EmPixeis());
+}
+
 // Drawings yield to the event loop. A draw button of another page pressed in that yield
 // (by click or by Enter) must not run a second drawing inside the first.
 TEST_F(Kit, UmSoDesenhoDeCadaVezNoPrograma)
