@@ -1,5 +1,7 @@
 #include "app/FigurasInicio.h"
 
+#include "complex/Julia.h"
+#include "complex/MetodoNewton.h"
 #include "complex/TempoFuga.h"
 #include "frame/EsquemaCores.h"
 #include "geometric/Construcoes.h"
@@ -12,7 +14,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <complex>
 #include <vector>
 
 namespace lumerina {
@@ -111,21 +112,23 @@ QImage FiguraMandelbrot(QSize tamanho, qreal escala)
 QImage FiguraJulia(QSize tamanho, qreal escala)
 {
     QImage imagem = NovaFigura(tamanho, escala);
+    const int w = imagem.width(), h = imagem.height();
     const Janela j = JanelaCentrada(imagem, -1.75, 1.75, 0.0);
+    // The Julia page's kernel for z² + k, k = −0.7269 + 0.1889 i, coloured through the blue
+    // table; the same mapping of columns and rows as the Mandelbrot picture.
+    const VistaJulia vista{j.x0, j.x1, j.y0, j.y1, double(w), h};
+    const int limite = LimiteContagem(160);
     EsquemaCores azul;
     PreencherAzul(azul);
-    const double cx = -0.7269, cy = 0.1889;
-    const int N = 160;
-    PintarPixeis(imagem, j, [&](double x, double y) {
-        int n = 0;
-        while (x * x + y * y < 4 && n < N) {
-            const double t = x * x - y * y + cx;
-            y = 2 * x * y + cy;
-            x = t;
-            ++n;
+    std::vector<int> contagens(std::size_t(h) + 1);
+    for (int i = 0; i < w; ++i) {
+        ColunaJulia(vista, i, -0.7269, 0.1889, limite, contagens.data());
+        for (int jj = 0; jj < h; ++jj) {
+            const int n = contagens[std::size_t(jj)];
+            reinterpret_cast<QRgb*>(imagem.scanLine(h - 1 - jj))[i] =
+                n >= limite ? qRgb(0, 0, 0) : CorEntrada(azul, 1 + n * 4 % 255);
         }
-        return n == N ? qRgb(0, 0, 0) : CorEntrada(azul, 1 + n * 4 % 255);
-    });
+    }
     Emoldurar(imagem);
     return imagem;
 }
@@ -133,27 +136,23 @@ QImage FiguraJulia(QSize tamanho, qreal escala)
 QImage FiguraNewton(QSize tamanho, qreal escala)
 {
     QImage imagem = NovaFigura(tamanho, escala);
+    const int w = imagem.width(), h = imagem.height();
     const Janela j = JanelaCentrada(imagem, -2.0, 2.0, 0.0);
-    // Basins of the roots of z³ − 1, darker the longer Newton's method takes.
-    const std::complex<double> raizes[3] = {{1, 0}, {-0.5, std::sqrt(3.0) / 2},
-                                            {-0.5, -std::sqrt(3.0) / 2}};
-    const QColor cores[3] = {QColor(0xe0, 0x4a, 0x3a), QColor(0x3f, 0xb9, 0x5c),
-                             QColor(0x3c, 0x7d, 0xe0)};
-    PintarPixeis(imagem, j, [&](double x, double y) {
-        std::complex<double> z(x, y);
-        for (int n = 0; n < 40; ++n) {
-            if (std::norm(z) < 1e-12)
-                break;
-            z -= (z * z * z - 1.0) / (3.0 * z * z);
-            for (int r = 0; r < 3; ++r)
-                if (std::norm(z - raizes[r]) < 1e-6) {
-                    const double luz = std::max(0.25, 1.0 - n / 14.0);
-                    const QColor& c = cores[r];
-                    return qRgb(int(c.red() * luz), int(c.green() * luz), int(c.blue() * luz));
-                }
-        }
-        return qRgb(0, 0, 0);
-    });
+    // The Newton page's kernel for z³ − 1: the steps each point needs to settle, coloured
+    // as that page's "Multicor" colouring does.
+    std::vector<double> ys(static_cast<std::size_t>(h));
+    for (int jj = 0; jj < h; ++jj)
+        ys[std::size_t(jj)] = j.y0 + (jj + 0.5) * (j.y1 - j.y0) / h;
+    EsquemaCores tabela;
+    PreencherTabelaNewton(TabelaDaCor(CorNewton::Multicor), tabela);
+    std::vector<int> passos(static_cast<std::size_t>(h));
+    for (int i = 0; i < w; ++i) {
+        const double x = j.x0 + (i + 0.5) * (j.x1 - j.x0) / w;
+        ColunaNewton(x, ys.data(), h, 3, nullptr, passos.data());
+        for (int jj = 0; jj < h; ++jj)
+            reinterpret_cast<QRgb*>(imagem.scanLine(h - 1 - jj))[i] =
+                CorDosPassos(CorNewton::Multicor, passos[std::size_t(jj)], tabela);
+    }
     Emoldurar(imagem);
     return imagem;
 }

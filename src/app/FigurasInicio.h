@@ -3,11 +3,9 @@
 // each) at the screen's pixel ratio, so that they are crisp on any screen and nothing has to
 // be shipped. Each returns an image of `tamanho` device-independent pixels.
 //
-// The Mandelbrot set comes from the escape-time kernel of its page, the fern from the IFS
-// page's catalogue and iteration, Sierpinski's triangle from the shared constructions, the
-// attractor from the attractors page's Lorenz stepper and the plant from the L-systems'
-// rewriting and turtle; the Julia set and Newton's basins iterate their few lines of maths
-// in their own function.
+// Each is drawn by the maths of its page: the Mandelbrot, Julia and Newton kernels, the IFS
+// catalogue and iteration, the attractors' Lorenz stepper, the L-systems' rewriting and
+// turtle; Sierpinski's triangle comes from the shared constructions.
 
 #include <QImage>
 #include <QSize>
