@@ -1,15 +1,18 @@
 // Pictures of the program made by the program itself, on the offscreen platform:
 //   lumerina_capturas docs            the main page and the Mandelbrot page after a drawing
 //   lumerina_capturas paginas PASTA   every information page, one PNG each
+//   lumerina_capturas ifs PASTA       every system of the IFS page, one picture each
 // `make capturas` runs both.
 
 #include "app/Aplicacao.h"
 #include "app/PaginaInformacao.h"
 #include "app/Paginas.h"
+#include "frame/ControloImagem.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QGroupBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -40,6 +43,10 @@ int Documentacao(const QString& pasta)
     // "Comentários" from the Mandelbrot page opens at its first page on the set.
     mandel->findChild<QAction*>("Comentários")->trigger();
     ok = Guardar(lumerina::Pagina(lumerina::Form::Comentarios), pasta + "/pagina-comentarios.png") && ok;
+    QWidget* ifs = lumerina::Pagina(lumerina::Form::IFS);
+    ifs->show();
+    ifs->findChild<QPushButton*>("FetoBarnsley")->click();
+    ok = Guardar(ifs, pasta + "/pagina-ifs.png") && ok;
     return ok ? 0 : 1;
 }
 
@@ -70,6 +77,34 @@ int Paginas(const QString& pasta)
     return ok ? 0 : 1;
 }
 
+// Each example button of the IFS page on a cleared picture, 300 000 steps, in the order of
+// the buttons: NN-Nome.png.
+int SistemasIFS(const QString& pasta)
+{
+    QDir().mkpath(pasta);
+    AbrirLumerina();
+    QWidget* pagina = lumerina::Pagina(lumerina::Form::IFS);
+    pagina->show();
+    pagina->findChild<QLineEdit*>("NumIteraçõesIFS")->setText("300000");
+    auto* apagar = pagina->findChild<QPushButton*>("ApagarGráfico");
+    auto* imagem = pagina->findChild<lumerina::ControloImagem*>("Picture1");
+    bool ok = true;
+    int n = 0;
+    for (const char* quadro : {"Frame1", "Frame3"}) {
+        for (QPushButton* b : pagina->findChild<QGroupBox*>(quadro)->findChildren<QPushButton*>()) {
+            if (b->objectName() == "Command1" || b->objectName() == "Command7")
+                continue;
+            apagar->click();
+            b->click();
+            const QString nome =
+                QStringLiteral("%1/%2-%3.png").arg(pasta).arg(++n, 2, 10, QLatin1Char('0')).arg(b->objectName());
+            ok = imagem->Imagem().save(nome) && ok;
+        }
+    }
+    std::printf("%d sistemas %s\n", n, ok ? "escritos" : "FALHOU");
+    return ok ? 0 : 1;
+}
+
 }  // namespace
 
 int main(int argc, char* argv[])
@@ -83,8 +118,10 @@ int main(int argc, char* argv[])
         codigo = Documentacao(args[2]);
     else if (args.size() >= 3 && args[1] == "paginas")
         codigo = Paginas(args[2]);
+    else if (args.size() >= 3 && args[1] == "ifs")
+        codigo = SistemasIFS(args[2]);
     else
-        std::fprintf(stderr, "uso: lumerina_capturas docs PASTA | paginas PASTA\n");
+        std::fprintf(stderr, "uso: lumerina_capturas docs PASTA | paginas PASTA | ifs PASTA\n");
     lumerina::FecharLumerina();
     return codigo;
 }

@@ -5,6 +5,7 @@
 #include "app/PaginaInformacao.h"
 #include "app/PaginaInicial.h"
 #include "complex/PaginaMandelbrot.h"
+#include "geometric/PaginaIFS.h"
 
 #include <QPointer>
 
@@ -44,6 +45,8 @@ QWidget* Criar(int numero)
     switch (numero) {
     case Form::Mandelbrot:
         return new PaginaMandelbrot(Descricao(numero));
+    case Form::IFS:
+        return new PaginaIFS(Descricao(numero));
     case Form::Inicial:
         return new PaginaInicial(Descricao(numero));
     case Form::Instrucoes:

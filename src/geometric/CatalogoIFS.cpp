@@ -39,9 +39,10 @@ constexpr std::array kCatalogo = {
                 {0.181818, -0.136364, 0.090909, 0.181818, 6.086107, 1.568035}},
                Faixas({{0, 90}, {91, 95}, {96, 99}}),
                {{-2, 2, 2, -2}, 0.263, 0, 1.31, {-2.647, 5.469}}},
-    // A palmate leaf: a stalk and three lobes, each a copy of the whole leaf.
+    // A palmate leaf: a stalk reaching the lobes (0.38 of the leaf's height 0.79) and three
+    // lobes, each a copy of the whole leaf.
     SistemaIFS{"Folha1",
-               {{0, 0, 0, 0.3, 0, 0},
+               {{0, 0, 0, 0.38, 0, 0},
                 {0.35355, -0.35355, 0.35355, 0.35355, 0, 0.3},
                 {0.62, 0, 0, 0.62, 0, 0.3},
                 {0.35355, 0.35355, -0.35355, 0.35355, 0, 0.3}},
@@ -49,7 +50,7 @@ constexpr std::array kCatalogo = {
                {{-2, 2, 2, -2}, 4.69, 0, 1.85, {0, 0}}},
     // The leaf of "Folha1" spread into four stems: a shrub.
     SistemaIFS{"Arbusto2",
-               {{0, 0, 0, 0.3, 0, 0},
+               {{0, 0, 0, 0.46, 0, 0},
                 {0.25, -0.43301, 0.43301, 0.25, 0, 0.3},
                 {0.51683, -0.18811, 0.18811, 0.51683, 0, 0.3},
                 {0.51683, 0.18811, -0.18811, 0.51683, 0, 0.3},
@@ -58,7 +59,7 @@ constexpr std::array kCatalogo = {
                {{-2, 2, 2, -2}, 5.67, 0, 1.85, {0, 0}}},
     // The leaf of "Folha1" spread into five stems: a wider shrub.
     SistemaIFS{"Arbusto",
-               {{0, 0, 0, 0.3, 0, 0},
+               {{0, 0, 0, 0.4, 0, 0},
                 {0.15391, -0.42286, 0.42286, 0.15391, 0, 0.3},
                 {0.43301, -0.25, 0.25, 0.43301, 0, 0.3},
                 {0.6, 0, 0, 0.6, 0, 0.3},
