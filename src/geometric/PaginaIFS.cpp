@@ -235,13 +235,16 @@ void PaginaIFS::DesenharSistema(const SistemaIFS& sistema)
     const EscalaIFS& e = sistema.moldura.escala;
     for (ControloImagem* imagem : {imagem1, imagem2_})
         imagem->Escala(e.esquerda, e.topo, e.direita, e.fundo);
+    // One seed a drawing: the shared generator, reseeded from the clock, gives 48 bits.
     SemearAleatorioDoRelogio();
+    const auto bits24 = [] { return static_cast<std::uint64_t>(Aleatorio() * 0x1p24); };
+    UniformeIFS uniforme(bits24() << 24 | bits24());
 
     // The loop never yields: the page takes no input until the last point. Progress shows
     // by a synchronous repaint of Picture2, throttled by the picture control.
     const QRect tudo = imagem2_->Imagem().rect();
     const Tela telas[] = {TelaDe(*imagem1), TelaDe(*imagem2_)};
-    DesenharIFS(sistema, iteracoes, telas, corImagem_.rgb() | 0xFF000000u, Aleatorio,
+    DesenharIFS(sistema, iteracoes, telas, corImagem_.rgb() | 0xFF000000u, uniforme,
                 [&] { imagem2_->Sujar(tudo, true); });
 
     imagem1->Sujar(tudo);

@@ -18,6 +18,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
+#include <random>
 #include <span>
 #include <string_view>
 
@@ -111,6 +112,21 @@ const SistemaIFS& TrianguloSierpinski();
 // past the table.
 using TabelaMapas = std::array<std::int8_t, 101>;
 TabelaMapas TabelaEscolha(const SistemaIFS& sistema);
+
+// The uniform source of one drawing: Knuth's 64-bit linear congruential generator (MMIX
+// constants, modulus 2⁶⁴), whose top 24 bits give U in [0, 1) in steps of 2⁻²⁴, as the
+// program's shared generator does. It runs inline in the loop, several times faster than a
+// call per step; a drawing seeds it once from the shared generator, itself reseeded from the
+// clock.
+class UniformeIFS {
+public:
+    explicit UniformeIFS(std::uint64_t semente) : motor_(semente) {}
+    double operator()() { return static_cast<double>(motor_() >> 40) * 0x1p-24; }
+
+private:
+    std::linear_congruential_engine<std::uint64_t, 6364136223846793005u, 1442695040888963407u, 0>
+        motor_;
+};
 
 // Pixels of a picture: `largura` x `altura` 32-bit values, `passo` values per row.
 struct Tela {
