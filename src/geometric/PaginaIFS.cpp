@@ -8,6 +8,7 @@
 #include "geometric/SistemaIFS.h"
 #include "interp/clsEquation.h"
 
+#include <QElapsedTimer>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -26,6 +27,7 @@ const QString kTitulo = QStringLiteral("Sistemas de função iterada");
 constexpr int kLado = 627;  // the picture's drawing area, in pixels
 constexpr int kPainelX = 668;
 constexpr int kPainelLargura = 336;
+constexpr int kIntervaloProgresso = 33;  // ms between two repaints of a drawing in progress
 
 // A button of an "Exemplos" frame: its name and caption. The caption is also the name of the
 // system it draws; the two buttons captioned "Folha de pé" draw the same one.
@@ -241,11 +243,18 @@ void PaginaIFS::DesenharSistema(const SistemaIFS& sistema)
     UniformeIFS uniforme(bits24() << 24 | bits24());
 
     // The loop never yields: the page takes no input until the last point. Progress shows
-    // by a synchronous repaint of Picture2, throttled by the picture control.
+    // by a synchronous repaint of Picture2, about 30 times a second: enough to watch a fern
+    // grow, and a small cost beside the points'.
     const QRect tudo = imagem2_->Imagem().rect();
     const Tela telas[] = {TelaDe(*imagem1), TelaDe(*imagem2_)};
-    DesenharIFS(sistema, iteracoes, telas, corImagem_.rgb() | 0xFF000000u, uniforme,
-                [&] { imagem2_->Sujar(tudo, true); });
+    QElapsedTimer desdePintura;
+    desdePintura.start();
+    DesenharIFS(sistema, iteracoes, telas, corImagem_.rgb() | 0xFF000000u, uniforme, [&] {
+        if (desdePintura.elapsed() >= kIntervaloProgresso) {
+            imagem2_->Sujar(tudo, true);
+            desdePintura.restart();
+        }
+    });
 
     imagem1->Sujar(tudo);
     imagem2_->hide();
