@@ -20,6 +20,7 @@
 #include <initializer_list>
 #include <random>
 #include <span>
+#include <stdexcept>
 #include <string_view>
 
 namespace lumerina {
@@ -86,14 +87,13 @@ struct SistemaIFS {
                          const Probabilidades& p, const Moldura& m)
         : nome(nome_), numMapas(p.n), faixas(p.faixas), moldura(m)
     {
+        // A catalogue entry is built while compiling: a count of maps that does not match
+        // its ranges, or more than kMaxMapas, stops the build here.
+        if (mapas_.size() != std::size_t(p.n) || mapas_.size() > std::size_t(kMaxMapas))
+            throw std::invalid_argument("one range per map, at most kMaxMapas");
         int i = 0;
         for (const MapaAfim& mapa : mapas_)
-            if (i < kMaxMapas)
-                mapas[i++] = mapa;
-        // A count that does not match its ranges leaves numMapas = 0: every test of the
-        // catalogue then fails for this entry.
-        if (i != p.n)
-            numMapas = 0;
+            mapas[i++] = mapa;
     }
 
     std::span<const MapaAfim> Mapas() const { return {mapas.data(), std::size_t(numMapas)}; }
