@@ -44,6 +44,45 @@ SistemaIFS Simples(std::initializer_list<MapaAfim> mapas, const Probabilidades& 
     return SistemaIFS("teste", mapas, p, {{-1, 1, 1, -1}, 1, 0, 0, inicio});
 }
 
+TEST(MapaAfim, DeterminanteValorSingularEPontoFixo)
+{
+    const double phi = (1 + std::sqrt(5.0)) / 2;
+    struct Caso {
+        const char* nome;
+        MapaAfim m;
+        double det, sigma;
+        bool temFixo;
+        Ponto fixo;
+    };
+    const Caso casos[] = {
+        {"x/2 + 1 on both axes (Banach's example)", {0.5, 0, 0, 0.5, 1, 1}, 0.25, 0.5, true, {2, 2}},
+        {"2 across, 1/4 up: area halves, yet it stretches", {2, 0, 0, 0.25, 0, 0}, 0.5, 2, true, {0, 0}},
+        {"quarter turn of factor 1/2", {0, -0.5, 0.5, 0, 1, 0}, 0.25, 0.5, true, {0.8, 0.4}},
+        {"shear by 1: stretches by the golden ratio", {1, 1, 0, 1, 0, 0}, 1, phi, false, {}},
+        {"reflection in the x axis", {1, 0, 0, -1, 0, 0}, -1, 1, false, {}},
+        {"the fern's stalk squeezes all onto a segment", {0, 0, 0, 0.16, 0.5, 0}, 0, 0.16, true, {0.5, 0}},
+    };
+    for (const Caso& c : casos) {
+        SCOPED_TRACE(c.nome);
+        EXPECT_DOUBLE_EQ(c.m.Determinante(), c.det);
+        EXPECT_NEAR(c.m.MaiorValorSingular(), c.sigma, 1e-12);
+        EXPECT_EQ(c.m.Contractivo(), c.sigma < 1);
+        bool ok = false;
+        const Ponto p = c.m.PontoFixo(&ok);
+        EXPECT_EQ(ok, c.temFixo);
+        if (c.temFixo) {
+            EXPECT_NEAR(p.x, c.fixo.x, 1e-12);
+            EXPECT_NEAR(p.y, c.fixo.y, 1e-12);
+        }
+    }
+    // Composition: first one map, then the other, point by point.
+    const MapaAfim f{0.3, -0.2, 0.1, 0.7, 1, -2}, g{-0.5, 0.4, 0.9, 0.2, 0.25, 3};
+    const Ponto p{1.5, -0.75};
+    const Ponto directo = g(f(p)), composto = Compor(g, f)(p);
+    EXPECT_NEAR(composto.x, directo.x, 1e-12);
+    EXPECT_NEAR(composto.y, directo.y, 1e-12);
+}
+
 TEST(IteracaoIFS, OsPrimeirosCemPontosNuncaSaoDesenhados)
 {
     const SistemaIFS& s = *SistemaIFSPorNome("Feto de Barnsley");
