@@ -4,6 +4,7 @@
 
 # The one list of Debian packages the project needs.
 PACKAGES := cmake make g++ pkg-config qt6-base-dev qt6-base-dev-tools libgl-dev \
+            qt6-tools-dev qt6-l10n-tools \
             libgtest-dev libgmock-dev libbenchmark-dev fonts-dejavu-core xvfb xauth \
             clang libclang-rt-dev
 

@@ -12,6 +12,7 @@ void FiltrarMensagens(QtMsgType tipo, const QMessageLogContext& contexto, const 
 {
     if (texto.contains(QLatin1String("does not support raise()")) ||
         texto.contains(QLatin1String("does not support activateWindow()")) ||
+        texto.contains(QLatin1String("does not support propagateSizeHints()")) ||
         texto.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR")))
         return;
     anterior(tipo, contexto, texto);

@@ -1,5 +1,6 @@
 // Pictures of the program made by the program itself, on the offscreen platform:
-//   lumerina_capturas docs            the main page and the Mandelbrot page after a drawing
+//   lumerina_capturas docs            the main page, the Mandelbrot page after a drawing,
+//                                     a comments page and the save dialog
 //   lumerina_capturas paginas PASTA   every information page, one PNG each
 //   lumerina_capturas ifs PASTA       every system of the IFS page, one picture each
 // `make capturas` runs both.
@@ -8,11 +9,13 @@
 #include "app/PaginaInformacao.h"
 #include "app/Paginas.h"
 #include "frame/ControloImagem.h"
+#include "frame/Plataforma.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QGroupBox>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -47,6 +50,14 @@ int Documentacao(const QString& pasta)
     ifs->show();
     ifs->findChild<QPushButton*>("FetoBarnsley")->click();
     ok = Guardar(ifs, pasta + "/pagina-ifs.png") && ok;
+    // Guardar's dialog, in European Portuguese like the rest of the program.
+    const auto dialogo = lumerina::CriarDialogoGuardar(mandel, QStringLiteral("Mapa de bits (*.bmp)|*.bmp"));
+    dialogo->setOption(QFileDialog::DontUseNativeDialog);
+    dialogo->setDirectory(QDir::tempPath());
+    dialogo->selectFile(QStringLiteral("mandelbrot.bmp"));
+    dialogo->resize(640, 400);
+    dialogo->show();
+    ok = Guardar(dialogo.get(), pasta + "/dialogo-guardar.png") && ok;
     return ok ? 0 : 1;
 }
 

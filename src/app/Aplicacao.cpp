@@ -6,6 +6,8 @@
 #include "interp/clsEquation.h"
 
 #include <QApplication>
+#include <QLocale>
+#include <QTranslator>
 
 namespace lumerina {
 
@@ -68,6 +70,17 @@ void Abandonar()
     QCoreApplication::exit(0);
 }
 
+void InstalarTraducao()
+{
+    static QTranslator* traducao = nullptr;
+    if (traducao || !qApp)
+        return;
+    QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Portugal));
+    traducao = new QTranslator(qApp);
+    if (traducao->load(QStringLiteral(":/traducoes/lumerina_pt_PT.qm")))
+        QCoreApplication::installTranslator(traducao);
+}
+
 void FecharLumerina()
 {
     LibertarTodasAsPaginas();
@@ -86,6 +99,7 @@ QWidget* AbrirLumerina()
         ligado = true;
         QApplication::setQuitOnLastWindowClosed(false);
         QObject::connect(qApp, &QCoreApplication::aboutToQuit, [] { FecharLumerina(); });
+        InstalarTraducao();
         // "rnd(", "rand(" and "random(" reseed from the platform's clock.
         DefinirRelogioAleatorio(
             +[]() -> std::uint64_t { return Sistema().SementeRelogio(); });

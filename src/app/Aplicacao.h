@@ -26,6 +26,10 @@ void AbrirComentarios(PaginaBase* origem);
 void AbrirSugestoes(PaginaBase* origem);
 void Abandonar();
 
+// Qt's own dialogs and context menus in European Portuguese, whatever the system's
+// language: the program is Portuguese by design. AbrirLumerina does it once.
+void InstalarTraducao();
+
 // Releases every page and resets the program-wide state (end of the program; tests).
 void FecharLumerina();
 

@@ -7,10 +7,13 @@
 #include "interp/LerValor.h"
 #include "interp/clsEquation.h"
 
+#include <QBuffer>
 #include <QGroupBox>
+#include <QImageWriter>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSaveFile>
 #include <QScrollBar>
 
 #include <cmath>
@@ -24,12 +27,44 @@ constexpr int kEspessuraBarra = 17;
 constexpr int kMinimoBarra = 20;   // smallest picture side the bars allow, in pixels
 
 const QString kFiltroBmp = QStringLiteral("Mapa de bits (*.bmp)|*.bmp");
+
+// Complete or not at all: the bitmap goes to a temporary file beside the target, which
+// replaces the target only once every byte is written and flushed. A write refused half-way
+// (a full disk, a file size limit) leaves the old file as it was and no temporary behind.
+// The bitmap is encoded in memory first: the BMP writer takes a short write for a complete
+// one, so only the count of bytes the file accepted tells that the last rows were cut.
+bool GuardarBmp(const QImage& imagem, const QString& ficheiro)
+{
+    QBuffer bmp;
+    bmp.open(QIODevice::WriteOnly);
+    if (!QImageWriter(&bmp, "BMP").write(imagem))
+        return false;
+    QSaveFile destino(ficheiro);
+    if (!destino.open(QIODevice::WriteOnly))
+        return false;
+    if (destino.write(bmp.data()) != bmp.data().size()) {
+        destino.cancelWriting();
+        return false;
+    }
+    return destino.commit();
+}
 }  // namespace
+
+QString TextoParaInterpretar(QString texto)
+{
+    // What the help pages and a word processor write for minus, times and division; the
+    // interpreter would skip them as unknown characters ("−2" would read as 2).
+    texto.replace(QChar(0x2212), QLatin1Char('-'));
+    texto.replace(QChar(0x00D7), QLatin1Char('*'));
+    texto.replace(QChar(0x00B7), QLatin1Char('*'));
+    texto.replace(QChar(0x00F7), QLatin1Char('/'));
+    return texto;
+}
 
 double AvaliarLimite(const QString& texto)
 {
     clsEquation equacao;
-    equacao.Expression(texto.toStdString());
+    equacao.Expression(TextoParaInterpretar(texto).toStdString());
     equacao.SetVariable("x", 0);
     equacao.Evaluate();
     return equacao.Value();
@@ -226,7 +261,7 @@ void JanelaDesenho::GuardarGrafico()
     }
     if (resposta.ficheiro.isEmpty())
         return;
-    if (!imagem_->Imagem().save(resposta.ficheiro, "BMP"))
+    if (!GuardarBmp(imagem_->Imagem(), resposta.ficheiro))
         Sistema().Mensagem(pagina_, QStringLiteral("Lumerina"),
                            QStringLiteral("Não foi possível guardar o ficheiro."),
                            IconeMensagem::Informacao);

@@ -26,6 +26,10 @@ namespace lumerina {
 
 class ControloImagem;
 
+// A limit field's text as the interpreter reads it: the typographic minus, times and
+// division signs become "-", "*" and "/"; anything else is left as typed.
+QString TextoParaInterpretar(QString texto);
+
 // Evaluates a limit field the way every page does: a new interpreter, "x" bound to 0.
 // Throws the interpreter's error.
 double AvaliarLimite(const QString& texto);

@@ -7,6 +7,7 @@
 #include <QDateTime>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QThread>
 #include <QWidget>
@@ -30,13 +31,39 @@ RespostaGuardar ResolverNomeGuardar(const QString& escrito, const QString& exten
     return r;
 }
 
+std::unique_ptr<QMessageBox> CriarCaixaMensagem(QWidget* dono, const QString& titulo,
+                                                const QString& texto, IconeMensagem icone)
+{
+    auto caixa = std::make_unique<QMessageBox>(
+        icone == IconeMensagem::Informacao ? QMessageBox::Information : QMessageBox::NoIcon,
+        titulo, texto, QMessageBox::Ok, dono);
+    // A short text makes a narrow box, and the window manager then cuts the title
+    // ("Inte…ador"). The box sizes itself from its grid, so the width goes in as a spacer:
+    // the title in a bold caption font, plus room for the caption's buttons.
+    QFont letra = QApplication::font();
+    letra.setBold(true);
+    constexpr int kBotoesDaBarra = 120;
+    const int largura = QFontMetrics(letra).horizontalAdvance(titulo) + kBotoesDaBarra;
+    if (auto* grelha = qobject_cast<QGridLayout*>(caixa->layout()))
+        grelha->addItem(new QSpacerItem(largura, 0, QSizePolicy::Minimum, QSizePolicy::Fixed),
+                        grelha->rowCount(), 0, 1, grelha->columnCount());
+    return caixa;
+}
+
+std::unique_ptr<QFileDialog> CriarDialogoGuardar(QWidget* dono, const QString& filtro)
+{
+    auto dialogo = std::make_unique<QFileDialog>(dono);
+    dialogo->setAcceptMode(QFileDialog::AcceptSave);
+    dialogo->setFileMode(QFileDialog::AnyFile);
+    // "Descrição|padrão" is the old two-part filter; Qt wants "Descrição".
+    dialogo->setNameFilter(filtro.section('|', 0, 0));
+    return dialogo;
+}
+
 void PlataformaQt::Mensagem(QWidget* dono, const QString& titulo, const QString& texto,
                             IconeMensagem icone)
 {
-    QMessageBox caixa(icone == IconeMensagem::Informacao ? QMessageBox::Information
-                                                          : QMessageBox::NoIcon,
-                      titulo, texto, QMessageBox::Ok, dono);
-    caixa.exec();
+    CriarCaixaMensagem(dono, titulo, texto, icone)->exec();
 }
 
 QColor PlataformaQt::EscolherCor(QWidget* dono, const QColor& actual)
@@ -48,16 +75,11 @@ QColor PlataformaQt::EscolherCor(QWidget* dono, const QColor& actual)
 RespostaGuardar PlataformaQt::DialogoGuardar(QWidget* dono, const QString& filtro,
                                              const QString& extensaoPredefinida)
 {
-    // "Descrição|padrão" is the old two-part filter; Qt wants "Descrição".
-    QString filtroQt = filtro.section('|', 0, 0);
-    QFileDialog dialogo(dono);
-    dialogo.setAcceptMode(QFileDialog::AcceptSave);
-    dialogo.setFileMode(QFileDialog::AnyFile);
-    dialogo.setNameFilter(filtroQt);
     // No default suffix here: the typed name is judged by ResolverNomeGuardar, which adds it.
-    if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty())
+    const auto dialogo = CriarDialogoGuardar(dono, filtro);
+    if (dialogo->exec() != QDialog::Accepted || dialogo->selectedFiles().isEmpty())
         return {};
-    return ResolverNomeGuardar(dialogo.selectedFiles().constFirst(), extensaoPredefinida);
+    return ResolverNomeGuardar(dialogo->selectedFiles().constFirst(), extensaoPredefinida);
 }
 
 void PlataformaQt::CopiarImagem(const QImage& imagem)

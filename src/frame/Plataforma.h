@@ -10,6 +10,8 @@
 #include <cstdint>
 #include <memory>
 
+class QFileDialog;
+class QMessageBox;
 class QWidget;
 
 namespace lumerina {
@@ -73,6 +75,12 @@ public:
 private:
     QElapsedTimer desdeCedencia_;
 };
+
+// The dialogs PlataformaQt shows, built but not yet shown (tests look inside them).
+// The message box is at least wide enough for its whole title on the window's caption bar.
+std::unique_ptr<QMessageBox> CriarCaixaMensagem(QWidget* dono, const QString& titulo,
+                                                const QString& texto, IconeMensagem icone);
+std::unique_ptr<QFileDialog> CriarDialogoGuardar(QWidget* dono, const QString& filtro);
 
 // The platform in force (a PlataformaQt until another is installed).
 Plataforma& Sistema();

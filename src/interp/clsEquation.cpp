@@ -2,10 +2,8 @@
 
 #include <algorithm>
 #include <charconv>
-#include <chrono>
 #include <climits>
 #include <cmath>
-#include <random>
 
 namespace lumerina {
 
@@ -24,9 +22,28 @@ const std::string kOrigem = "Interpretador";
 [[noreturn]] void DivisaoPorZero() { Falhar(11, "Divisão por zero."); }
 [[noreturn]] void ExcessoCapacidade() { Falhar(6, "Excesso de capacidade."); }
 [[noreturn]] void ArgumentoFuncao() { Falhar(5, "Argumento ou chamada de função inválida."); }
+// A token as a message quotes it: at most 40 characters, then "…". A field holds 32 767
+// characters, and a message box as long as a whole field helps no one.
+std::string Citacao(std::string_view token)
+{
+    constexpr int kMaximo = 40;
+    int caracteres = 0;
+    for (std::size_t i = 0; i < token.size(); ++i) {
+        const bool continuacao = (static_cast<unsigned char>(token[i]) & 0xC0) == 0x80;
+        if (!continuacao && ++caracteres > kMaximo)
+            return std::string(token.substr(0, i)) + "\u2026";
+    }
+    return std::string(token);
+}
+
 [[noreturn]] void Invalido(const std::string& texto)
 {
-    Falhar(1104, "Argumento inválido na expressão: " + texto);
+    Falhar(1104, "Argumento inválido na expressão: " + Citacao(texto));
+}
+
+[[noreturn]] void NaoDefinida(std::string_view nome)
+{
+    Falhar(1102, "Variável não definida: " + Citacao(nome));
 }
 
 }  // namespace
@@ -37,47 +54,6 @@ ErroInterpretador::ErroInterpretador(int numero, const std::string& descricao)
 }
 
 const std::string& ErroInterpretador::origem() const { return kOrigem; }
-
-// ---------------------------------------------------------------------------------------------
-// The generator
-
-namespace {
-
-std::uint64_t RelogioSistema()
-{
-    return static_cast<std::uint64_t>(
-        std::chrono::system_clock::now().time_since_epoch().count());
-}
-
-std::mt19937& Gerador()
-{
-    static std::mt19937 gerador;
-    return gerador;
-}
-
-std::uint64_t (*relogioAleatorio)() = RelogioSistema;
-
-}  // namespace
-
-double Aleatorio()
-{
-    // 24 random bits: a single-precision number in [0, 1), exactly.
-    return static_cast<double>(Gerador()() >> 8) * 0x1p-24;
-}
-
-void SemearAleatorio(std::uint64_t semente)
-{
-    std::seed_seq sementes{static_cast<std::uint32_t>(semente),
-                           static_cast<std::uint32_t>(semente >> 32)};
-    Gerador().seed(sementes);
-}
-
-void SemearAleatorioDoRelogio() { SemearAleatorio(relogioAleatorio()); }
-
-void DefinirRelogioAleatorio(std::uint64_t (*relogio)())
-{
-    relogioAleatorio = relogio ? relogio : RelogioSistema;
-}
 
 // ---------------------------------------------------------------------------------------------
 // Checked arithmetic: every step of a formula raises the platform's error instead of going on
@@ -257,15 +233,9 @@ double Calcular(Funcao f, double x, double y)
     case FFix: return std::trunc(x);
     case FMant: return x - std::floor(x);
     case FSgn: return Sinal(x);
-    case FRnd:
-        SemearAleatorioDoRelogio();
-        return Aleatorio();
-    case FRand:
-        SemearAleatorioDoRelogio();
-        return Aleatorio() * x;
-    case FRandom:
-        SemearAleatorioDoRelogio();
-        return Soma(x, Produto(Aleatorio(), Diferenca(y, x)));
+    case FRnd: return Aleatorio();
+    case FRand: return Aleatorio() * x;
+    case FRandom: return Soma(x, Produto(Aleatorio(), Diferenca(y, x)));
     case FMin: return std::min(x, y);
     case FMax: return std::max(x, y);
     case FMod: return RestoInteiro(x, y);
@@ -359,7 +329,7 @@ double clsEquation::GetVariable(std::string_view name) const
 {
     const int i = ProcurarVariavel(name);
     if (i < 0)
-        Falhar(1102, "Variável não definida: " + Minusculas(name));
+        NaoDefinida(Minusculas(name));
     return variaveis_[i].valor;
 }
 
@@ -392,6 +362,9 @@ void clsEquation::Tokenise()
     tokens_.clear();
     ordem_.clear();
     origens_.clear();
+    // A token every two characters, as in "1+1+1": a long formula's tokens are moved at most
+    // a few times while the list grows.
+    tokens_.reserve(expressao_.size() / 2 + 16);
 
     int d = 0;
     bool operando = false;            // the last thing seen was an operand
@@ -550,6 +523,8 @@ void clsEquation::Tokenise()
 
     valores_.assign(n, 0.0);
     estados_.assign(n, Estado::Vazio);
+    anterior_.assign(n, -1);
+    seguinte_.assign(n, n);
     nomesLigados_ = false;
     tokenizado_ = true;
 }
@@ -561,6 +536,7 @@ void clsEquation::Evaluate()
 {
     if (!tokenizado_)
         Tokenise();
+    relogioMisturado_ = false;
 
     const int n = static_cast<int>(tokens_.size());
     if (!nomesLigados_ || geracaoNomes_ != geracaoVariaveis_) {
@@ -573,6 +549,12 @@ void clsEquation::Evaluate()
 
     std::copy(valoresIniciais_.begin(), valoresIniciais_.end(), valores_.begin());
     std::copy(estadosIniciais_.begin(), estadosIniciais_.end(), estados_.begin());
+    // No slot starts empty: every one is in the list.
+    for (int j = 0; j < n; ++j) {
+        anterior_[j] = j - 1;
+        seguinte_[j] = j + 1;
+    }
+    primeiro_ = n > 0 ? 0 : -1;
     for (const Origem& o : origens_) {
         switch (o.fonte) {
         case Fonte::Rnd:
@@ -580,7 +562,7 @@ void clsEquation::Evaluate()
             break;
         case Fonte::Variavel:
             if (o.variavel < 0)
-                Falhar(1102, "Variável não definida: " + tokens_[o.slot].texto);
+                NaoDefinida(tokens_[o.slot].texto);
             valores_[o.slot] = variaveis_[o.variavel].valor;
             break;
         case Fonte::NumeroInvalido:
@@ -595,9 +577,7 @@ void clsEquation::Evaluate()
 
     // Exactly one value must be left.
     int resultado = -1;
-    for (int j = 0; j < n; ++j) {
-        if (estados_[j] == Estado::Vazio)
-            continue;
+    for (int j = primeiro_; j >= 0; j = NextOperand(j)) {
         if (resultado >= 0 || estados_[j] != Estado::Valor)
             Invalido(TextoToken(j));
         resultado = j;
@@ -619,7 +599,7 @@ void clsEquation::Aplicar(int i)
         if (j < 0 || estados_[j] != Estado::Valor)
             ArgumentoInvalido(i);
         valores_[j] = -valores_[j];
-        estados_[i] = Estado::Vazio;
+        Esvaziar(i);
         return;
     }
 
@@ -641,8 +621,8 @@ void clsEquation::Aplicar(int i)
     default: ArgumentoInvalido(i);
     }
     valores_[a] = r;
-    estados_[i] = Estado::Vazio;
-    estados_[b] = Estado::Vazio;
+    Esvaziar(i);
+    Esvaziar(b);
 }
 
 // A plain group or a function call: the slots up to the matching ")" hold only values and the
@@ -653,7 +633,7 @@ void clsEquation::AplicarGrupo(int i)
     const bool funcao = t.tipo == Tipo::Funcao;
     const Funcao f = static_cast<Funcao>(t.funcao);
     if (funcao && f == FDesconhecida)
-        Falhar(1101, "Função não definida: " + t.texto + ")");
+        Falhar(1101, "Função não definida: " + Citacao(t.texto + ")"));
     const int k = t.par;
     if (k < 0)
         ArgumentoInvalido(i);
@@ -662,7 +642,8 @@ void clsEquation::AplicarGrupo(int i)
     int partes = 1;
     int valoresDaParte = 0;
     bool certo = true;
-    for (int j = i + 1; j < k && certo; ++j) {
+    // The ")" at k is still in the list: nothing but this group empties it.
+    for (int j = NextOperand(i); j >= 0 && j < k && certo; j = NextOperand(j)) {
         switch (estados_[j]) {
         case Estado::Vazio:
             break;
@@ -686,31 +667,43 @@ void clsEquation::AplicarGrupo(int i)
         ArgumentoInvalido(i);
 
     if (funcao) {
+        if ((f == FRnd || f == FRand || f == FRandom) && !relogioMisturado_) {
+            SemearAleatorioDoRelogio();
+            relogioMisturado_ = true;
+        }
         const double y = argumentos[1] >= 0 ? valores_[argumentos[1]] : 0.0;
         valores_[i] = Verificado(Calcular(f, valores_[argumentos[0]], y));
         estados_[i] = Estado::Valor;
-        std::fill(estados_.begin() + i + 1, estados_.begin() + k + 1, Estado::Vazio);
+        // The arguments, their commas and the ")": a few slots, each emptied once.
+        for (int j = NextOperand(i); j >= 0 && j <= k; j = NextOperand(i))
+            Esvaziar(j);
     } else {
-        estados_[i] = Estado::Vazio;   // the value stays where it is
-        estados_[k] = Estado::Vazio;
+        Esvaziar(i);   // the value stays where it is
+        Esvaziar(k);
     }
 }
 
+// The non-empty slots form a doubly linked list, so the nearest operand on either side of a
+// slot still in it is one step away, however many slots were emptied between.
 int clsEquation::NextOperand(int i) const
 {
-    const int n = static_cast<int>(estados_.size());
-    for (int j = i + 1; j < n; ++j)
-        if (estados_[j] != Estado::Vazio)
-            return j;
-    return -1;
+    const int j = seguinte_[i];
+    return j < static_cast<int>(seguinte_.size()) ? j : -1;
 }
 
-int clsEquation::PreviousOperand(int i) const
+int clsEquation::PreviousOperand(int i) const { return anterior_[i]; }
+
+void clsEquation::Esvaziar(int j)
 {
-    for (int j = i - 1; j >= 0; --j)
-        if (estados_[j] != Estado::Vazio)
-            return j;
-    return -1;
+    estados_[j] = Estado::Vazio;
+    const int a = anterior_[j];
+    const int s = seguinte_[j];
+    if (a >= 0)
+        seguinte_[a] = s;
+    else
+        primeiro_ = s < static_cast<int>(seguinte_.size()) ? s : -1;
+    if (s < static_cast<int>(anterior_.size()))
+        anterior_[s] = a;
 }
 
 void clsEquation::ArgumentoInvalido(int i) const { Invalido(TextoToken(i)); }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "interp/Aleatorio.h"
+
 #include <cstdint>
 #include <stdexcept>
 #include <string>
@@ -26,14 +28,6 @@ private:
     int numero_;
 };
 
-// The program's uniform generator in [0, 1) (single precision), shared by every clsEquation:
-// "rnd" draws from it, "rnd(", "rand(" and "random(" first reseed it from the clock.
-double Aleatorio();
-void SemearAleatorio(std::uint64_t semente);
-void SemearAleatorioDoRelogio();
-// Replaces the clock used for reseeding; nullptr restores the system clock. Tests fix it.
-void DefinirRelogioAleatorio(std::uint64_t (*relogio)());
-
 // clsEquation: a real expression typed by the user ("-2*pi", "sen(x)*2+x^3-1"), evaluated with
 // variables bound by the caller. Functions: abs sin/sen cos tg/tan sec cosec cotan/cotg arctg/atn
 // arcsin/arcsen arccos arcsec arccosec arccotg/arccotan sinh/senh cosh tgh/tanh sech cosech
@@ -41,6 +35,11 @@ void DefinirRelogioAleatorio(std::uint64_t (*relogio)());
 // log/ln log10 log2 logn(a,b) sqr int fix mant sgn rnd rand random(a,b) min(a,b) max(a,b)
 // mod(a,b) graus rad; constants pi = 3.14159265358979, e = 2.718281828 (ten digits on purpose),
 // rnd. Angles in radians.
+//
+// "rnd" (the constant) draws from the program's generator (interp/Aleatorio.h). "rnd(",
+// "rand(" and "random(" draw too, after the first of them in an evaluation has taken the
+// clock into the generator's state: once per evaluation, and never a restart, so that many
+// evaluations within one tick of the clock still draw different numbers.
 //
 // No syntax tree. The text is tokenised once: every token gets a priority 7d+k from its class and
 // its parenthesis depth d (k: "+"/"-" 1, "%" 2, "*" "/" "\" 3, unary "-" 4, "^" 5, name 6,
@@ -76,10 +75,17 @@ void DefinirRelogioAleatorio(std::uint64_t (*relogio)());
 // included, raises 11; 0^(-1) is an infinite power (6). "\", "%" and mod round both operands to
 // nearest (ties to even); an operand outside 32 bits, or -2147483648 \ -1, raises 6.
 // arcsec and arccosec are arccos(1/x) and arcsin(1/x).
+// A message quotes at most 40 characters of the offending token, then "…".
 // After any error the value keeps its last result and stays stale: the next Value evaluates again.
 //
 // Per point, SetVariable on an existing binding overwrites it in place and Value evaluates on
 // preallocated slots: no heap allocation once the expression is tokenised and its names bound.
+//
+// Cost in the number n of tokens: tokenising and ordering O(n log n) (a stable sort), once per
+// expression; each evaluation O(n). The non-empty slots are kept in a doubly linked list, so
+// an operator finds its operands in one step however many slots were emptied around it (a
+// flat "1+1+...+1" would otherwise walk back over all the consumed terms at every "+"), and a
+// group checks only the few slots still standing between its brackets.
 class clsEquation {
 public:
     void Switch(bool on);
@@ -122,8 +128,11 @@ private:
     void Tokenise();
     void Aplicar(int i);
     void AplicarGrupo(int i);
+    // The nearest non-empty slot after / before slot i, which must itself be non-empty; -1 if
+    // there is none.
     int NextOperand(int i) const;
     int PreviousOperand(int i) const;
+    void Esvaziar(int j);
     [[noreturn]] void ArgumentoInvalido(int i) const;
     std::string TextoToken(int i) const;
     int ProcurarVariavel(std::string_view nome) const;
@@ -142,7 +151,10 @@ private:
     std::vector<Estado> estadosIniciais_;
     std::vector<double> valores_;             // working slots
     std::vector<Estado> estados_;
+    std::vector<int> anterior_, seguinte_;    // the non-empty slots, linked in order
+    int primeiro_ = -1;
 
+    bool relogioMisturado_ = false;   // this evaluation has taken the clock in
     bool tokenizado_ = true;
     bool desactualizado_ = false;
     double valor_ = 0;

@@ -139,19 +139,21 @@ TEST_F(Navegacao, InstrucoesEComentariosAbremNaPaginaDoTopico)
     EXPECT_TRUE(mandel->isVisible());
 }
 
-// The interpreter's "rnd(" reseeds from the platform's clock: with the recorder's fixed
-// clock, two readings give the same number.
-TEST_F(Navegacao, AleatoriosSemeadosPeloRelogioDaPlataforma)
+// The interpreter's "rnd(" takes the platform's clock into the generator: from one state, the
+// same reading gives the same number and another reading another number.
+TEST_F(Navegacao, AleatoriosMisturamORelogioDaPlataforma)
 {
     AbrirLumerina();
-    clsEquation primeira, segunda;
-    primeira.Expression("rnd(1)");
-    segunda.Expression("rnd(1)");
-    EXPECT_EQ(primeira.Value(), segunda.Value());
-    sistema->semente += 1;
-    clsEquation terceira;
-    terceira.Expression("rnd(1)");
-    EXPECT_NE(terceira.Value(), primeira.Value());
+    auto rnd = [&](std::uint32_t leitura) {
+        sistema->semente = leitura;
+        SemearAleatorio(3);
+        clsEquation eq;
+        eq.Expression("rnd(1)");
+        return eq.Value();
+    };
+    const double a = rnd(20261123);
+    EXPECT_EQ(rnd(20261123), a);
+    EXPECT_NE(rnd(20261124), a);
 }
 
 // "Abandonar" in the middle of a loop that yields: the yield answers false at once, the

@@ -7,11 +7,17 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QTemporaryDir>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace lumerina::teste {
 namespace {
@@ -234,6 +240,123 @@ TEST_F(Janela, OutraExtensaoNaoEPermitida)
     ASSERT_EQ(sistema->mensagens.size(), 1u);
     EXPECT_EQ(sistema->mensagens[0].texto, "Essa extensão não é permitida.");
     EXPECT_EQ(sistema->mensagens[0].icone, IconeMensagem::Nenhum);
+}
+
+// What the failing device does to the process that saves. Both run in a child process, so
+// that the restriction dies with it.
+enum class Falha {
+    PastaSemEscrita,   // the directory cannot be written (as root, the child drops to nobody)
+    // Writes stop short of the bitmap's size (RLIMIT_FSIZE, SIGXFSZ ignored): halfway, or
+    // within the last row, where the only sign is a write shorter than asked.
+    DiscoCheioAMeio,
+    DiscoCheioNoFim,
+};
+
+// The bitmap of the window's picture: 24 bits a pixel, rows padded to 4 bytes, 54 of header.
+qint64 TamanhoBmp(const QImage& imagem)
+{
+    return 54 + qint64((imagem.width() * 3 + 3) / 4 * 4) * imagem.height();
+}
+
+// Saves into `ficheiro` in a child process under `falha`. The child's answer: 0 when exactly
+// the message "Não foi possível guardar o ficheiro." was shown, 1 otherwise, -1 if it died.
+int GuardarNumFilho(JanelaDesenho* janela, PlataformaGravadora* sistema, const QString& ficheiro,
+                    const QString& pasta, Falha falha)
+{
+    const qint64 tamanho = TamanhoBmp(janela->Imagem()->Imagem());
+    const pid_t filho = fork();
+    if (filho == 0) {
+        bool pronto = true;
+        if (falha == Falha::PastaSemEscrita) {
+            pronto = chmod(QFile::encodeName(pasta).constData(), 0555) == 0;
+            if (geteuid() == 0)
+                pronto = pronto && setgid(65534) == 0 && setuid(65534) == 0;
+        } else {
+            std::signal(SIGXFSZ, SIG_IGN);
+            const rlim_t maximo = falha == Falha::DiscoCheioAMeio ? tamanho / 2 : tamanho - 1000;
+            const rlimit limite{maximo, maximo};
+            pronto = setrlimit(RLIMIT_FSIZE, &limite) == 0;
+        }
+        if (!pronto)
+            _exit(2);
+        sistema->mensagens.clear();
+        sistema->nomesEscritos = {ficheiro};
+        janela->GuardarGrafico();
+        const bool certo = sistema->mensagens.size() == 1 &&
+                           sistema->mensagens[0].texto == "Não foi possível guardar o ficheiro.";
+        _exit(certo ? 0 : 1);
+    }
+    int estado = 0;
+    if (filho < 0 || waitpid(filho, &estado, 0) != filho || !WIFEXITED(estado))
+        return -1;
+    return WEXITSTATUS(estado);
+}
+
+TEST_F(Janela, GuardarFicaCompletoOuNaoFica)
+{
+    Desenhado();
+    // A first save in this process, so that the child finds the bitmap writer ready.
+    QTemporaryDir aquecer;
+    sistema->nomesEscritos = {aquecer.filePath("a.bmp")};
+    janela->GuardarGrafico();
+    ASSERT_EQ(QFileInfo(aquecer.filePath("a.bmp")).size(),
+              TamanhoBmp(janela->Imagem()->Imagem()));
+
+    const QByteArray velho = "an older picture, to be kept whole";
+    const struct {
+        const char* nome;
+        Falha falha;
+        bool haviaFicheiro;
+    } casos[] = {
+        {"unwritable directory, no file yet", Falha::PastaSemEscrita, false},
+        {"unwritable directory, an old file", Falha::PastaSemEscrita, true},
+        {"disk full halfway, no file yet", Falha::DiscoCheioAMeio, false},
+        {"disk full halfway, an old file", Falha::DiscoCheioAMeio, true},
+        {"disk full in the last row, no file yet", Falha::DiscoCheioNoFim, false},
+        {"disk full in the last row, an old file", Falha::DiscoCheioNoFim, true},
+    };
+    for (const auto& c : casos) {
+        SCOPED_TRACE(c.nome);
+        QTemporaryDir pasta;
+        const QString alvo = pasta.filePath("figura.bmp");
+        if (c.haviaFicheiro) {
+            QFile f(alvo);
+            ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+            f.write(velho);
+        }
+        EXPECT_EQ(GuardarNumFilho(janela, sistema, alvo, pasta.path(), c.falha), 0);
+        QFile::setPermissions(pasta.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+
+        // Nothing but the old file, if there was one, and it is intact.
+        const QStringList restantes = QDir(pasta.path()).entryList(QDir::Files | QDir::Hidden);
+        EXPECT_EQ(restantes, c.haviaFicheiro ? QStringList{"figura.bmp"} : QStringList{});
+        if (c.haviaFicheiro) {
+            QFile f(alvo);
+            ASSERT_TRUE(f.open(QIODevice::ReadOnly));
+            EXPECT_EQ(f.readAll(), velho);
+        }
+    }
+}
+
+// A save over a larger file leaves the new bitmap alone, with nothing of the old one after it.
+TEST_F(Janela, GuardarPorCimaDeUmFicheiroMaior)
+{
+    Desenhado();
+    QTemporaryDir pasta;
+    const QString alvo = pasta.filePath("figura.bmp");
+    const qint64 tamanho = TamanhoBmp(janela->Imagem()->Imagem());
+    {
+        QFile f(alvo);
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write(QByteArray(tamanho * 2, 'x'));
+    }
+    sistema->nomesEscritos = {alvo};
+    janela->GuardarGrafico();
+    EXPECT_TRUE(sistema->mensagens.empty());
+    EXPECT_EQ(QFileInfo(alvo).size(), tamanho);
+    EXPECT_EQ(QImage(alvo, "BMP").convertToFormat(QImage::Format_RGB32),
+              janela->Imagem()->Imagem());
+    EXPECT_EQ(QDir(pasta.path()).entryList(QDir::Files | QDir::Hidden), QStringList{"figura.bmp"});
 }
 
 }  // namespace

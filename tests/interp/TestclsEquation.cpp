@@ -249,6 +249,80 @@ TEST(clsEquation, PrioridadesDe16Bits)
     }
 }
 
+std::string Repetir(std::string_view pedaco, int vezes)
+{
+    std::string r;
+    for (int i = 0; i < vezes; ++i)
+        r += pedaco;
+    return r;
+}
+
+// As long as a field allows (32 767 characters): the value still comes from the maths.
+TEST(clsEquation, ExpressoesDoTamanhoDeUmCampo)
+{
+    const struct {
+        std::string texto;
+        double esperado;
+    } casos[] = {
+        {"x" + Repetir("+1", 16383), 16383.5},                   // 32 767 characters
+        {"1" + Repetir("-1+1", 8191), 1},
+        {"x" + Repetir("*1", 16383), 0.5},
+        {Repetir("1+", 8000) + "2*x" + Repetir("+1", 8000), 16001},  // "*" amid the sum
+        {Repetir("abs(", 4000) + "-x" + std::string(4000, ')'), 0.5},
+        {Repetir("min(9,", 3000) + "x" + std::string(3000, ')'), 0.5},
+        {Repetir("(x-", 4000) + "1" + std::string(4000, ')'), 1},   // x-(x-1) = 1, 2000 times
+    };
+    for (const auto& c : casos) {
+        SCOPED_TRACE(c.texto.substr(0, 30));
+        clsEquation eq;
+        eq.Expression(c.texto);
+        eq.SetVariable("x", 0.5);
+        EXPECT_EQ(eq.Value(), c.esperado);
+        eq.SetVariable("x", 0.5);   // again, on the kept tokens
+        EXPECT_EQ(eq.Value(), c.esperado);
+    }
+}
+
+// A message quotes at most 40 characters of the token, then "…"; characters, not bytes.
+TEST(clsEquation, MensagensCitamNoMaximo40Caracteres)
+{
+    const std::string a40(40, 'a');
+    const std::string cedilhas = Repetir("\u00e7", 40);
+    const struct {
+        std::string texto;
+        int numero;
+        std::string descricao;
+    } casos[] = {
+        {a40, 1102, "Variável não definida: " + a40},
+        {a40 + "b", 1102, "Variável não definida: " + a40 + "\u2026"},
+        {"1+" + std::string(32765, 'a'), 1102, "Variável não definida: " + a40 + "\u2026"},
+        {std::string(38, 'f') + "(1)", 1101, "Função não definida: " + std::string(38, 'f') + "()"},
+        {std::string(39, 'f') + "(1)", 1101,
+         "Função não definida: " + std::string(39, 'f') + "(\u2026"},
+        {"2*1" + Repetir(".1", 30), 1104, "Argumento inválido na expressão: 1" +
+                                              Repetir(",1", 19) + ",\u2026"},
+    };
+    for (const auto& c : casos) {
+        SCOPED_TRACE(c.texto.substr(0, 50));
+        clsEquation eq;
+        eq.Expression(c.texto);
+        try {
+            eq.Evaluate();
+            ADD_FAILURE() << "no error, value " << eq.Value();
+        } catch (const ErroInterpretador& erro) {
+            EXPECT_EQ(erro.numero(), c.numero);
+            EXPECT_EQ(erro.what(), c.descricao);
+        }
+    }
+    // The caller's own name, asked for and not bound, is quoted the same way.
+    try {
+        clsEquation().GetVariable(Repetir("\u00c7", 41));
+        ADD_FAILURE();
+    } catch (const ErroInterpretador& erro) {
+        EXPECT_EQ(erro.what(), "Variável não definida: " + cedilhas + "\u2026");
+    }
+}
+
 TEST(clsEquation, NumerosForaDoAlcanceDeUmDouble)
 {
     EXPECT_EQ(Avaliar("0." + std::string(400, '0') + "1"), 0);
@@ -311,6 +385,13 @@ TEST(clsEquation, ValoresNaoFinitosDasVariaveis)
 
 std::uint64_t RelogioParado() { return 42; }
 
+int leiturasDoRelogio = 0;
+std::uint64_t RelogioContado()
+{
+    ++leiturasDoRelogio;
+    return 42;
+}
+
 TEST(clsEquation, Aleatorios)
 {
     SemearAleatorio(7);
@@ -320,19 +401,84 @@ TEST(clsEquation, Aleatorios)
     EXPECT_GE(a, 0);
     EXPECT_LT(a, 1);
 
-    // The "(" forms reseed from the clock; with the clock stopped they repeat.
+    // From one state and one clock reading, the "(" forms draw the same r, each by its formula.
     DefinirRelogioAleatorio(RelogioParado);
-    const double r = Avaliar("rnd(0)");
-    EXPECT_EQ(Avaliar("rnd(5)"), r);
-    EXPECT_EQ(Avaliar("rand(10)"), 10 * r);
-    EXPECT_EQ(Avaliar("random(5,7)"), 5 + r * 2);
-    EXPECT_EQ(Avaliar("rnd(0)+rnd(0)"), 2 * r);
+    SemearAleatorio(7);
+    SemearAleatorioDoRelogio();
+    const double r = Aleatorio();
+    const double r2 = Aleatorio();
+    const struct {
+        const char* texto;
+        double esperado;
+    } casos[] = {
+        {"rnd(0)", r},
+        {"rnd(5)", r},
+        {"rand(10)", 10 * r},
+        {"random(5,7)", 5 + r * 2},
+        {"rnd(0)+rnd(0)", r + r2},   // the clock is taken in once, then the sequence goes on
+        {"rand(1)*0+rnd(1)", r2},
+    };
+    for (const auto& c : casos) {
+        SCOPED_TRACE(c.texto);
+        SemearAleatorio(7);
+        EXPECT_EQ(Avaliar(c.texto), c.esperado);
+    }
     DefinirRelogioAleatorio(nullptr);
 
     for (int i = 0; i < 100; ++i) {
         const double v = Avaliar("random(-3,-1)");
         EXPECT_TRUE(v >= -3 && v < -1) << v;
     }
+}
+
+// The clock is read once per evaluation that calls a random function, and only then.
+TEST(clsEquation, RelogioLidoUmaVezPorAvaliacao)
+{
+    const struct {
+        const char* texto;
+        int leituras;
+    } casos[] = {
+        {"rnd(1)", 1},
+        {"rnd(1)+rand(2)+random(1,2)+rnd(x)", 1},
+        {"rnd+x", 0},          // the constant draws without the clock
+        {"sin(x)*2", 0},
+        {"rnd(1/0)", 0},       // the argument fails before the call
+        {"rnd(1)+1/0", 1},
+    };
+    DefinirRelogioAleatorio(RelogioContado);
+    for (const auto& c : casos) {
+        SCOPED_TRACE(c.texto);
+        clsEquation eq;
+        eq.Expression(c.texto);
+        for (const double x : {0.0, 1.0}) {   // the second time on the kept tokens
+            eq.SetVariable("x", x);
+            leiturasDoRelogio = 0;
+            try {
+                eq.Evaluate();
+            } catch (const ErroInterpretador&) {
+            }
+            EXPECT_EQ(leiturasDoRelogio, c.leituras);
+        }
+    }
+    DefinirRelogioAleatorio(nullptr);
+}
+
+// Many evaluations within one tick of the clock: 20 000 values of "rand(1)" are nearly all
+// different. Of 20 000 draws among 2^24 values, about 20000^2 / 2^25 = 12 repeat.
+TEST(clsEquation, MuitasAvaliacoesNoMesmoInstante)
+{
+    DefinirRelogioAleatorio(RelogioParado);
+    SemearAleatorio(1);
+    std::set<double> valores;
+    double soma = 0;
+    for (int i = 0; i < 20000; ++i) {
+        const double v = Avaliar("rand(1)");
+        valores.insert(v);
+        soma += v;
+    }
+    DefinirRelogioAleatorio(nullptr);
+    EXPECT_GT(valores.size(), 19900u);
+    EXPECT_NEAR(soma / 20000, 0.5, 0.01);   // 5 standard deviations of the mean
 }
 
 // Every prefix and suffix of awkward expressions gives a value or an interpreter error.
