@@ -218,8 +218,22 @@ void ControloImagem::CanetaLarga(QImage& img, const QRect* caixa, QLineF linha, 
 void ControloImagem::Pixel(double x, double y, QRgb cor)
 {
     const int px = Arredondar(PixelX(x)), py = Arredondar(PixelY(y));
-    NasCamadas([&](QImage& img) { PontoNaImagem(img, px, py, cor); });
-    Agendar(QRect(px, py, 1, 1));
+    if (espessura_ == 1) {
+        NasCamadas([&](QImage& img) { PontoNaImagem(img, px, py, cor); });
+        Agendar(QRect(px, py, 1, 1));
+        return;
+    }
+    // A wide pen sets a round dot of that diameter centred on the point: the pixels whose
+    // centres lie within a radius of width/2.
+    const int r = espessura_ / 2;
+    const double raio2 = (espessura_ / 2.0) * (espessura_ / 2.0);
+    NasCamadas([&](QImage& img) {
+        for (int dy = -r; dy <= r; ++dy)
+            for (int dx = -r; dx <= r; ++dx)
+                if (dx * dx + dy * dy <= raio2)
+                    PontoNaImagem(img, px + dx, py + dy, cor);
+    });
+    Agendar(QRect(px - r, py - r, 2 * r + 1, 2 * r + 1));
 }
 
 void ControloImagem::Linha(double x1, double y1, double x2, double y2, QRgb cor)
