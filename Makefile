@@ -59,6 +59,7 @@ capturas: deps build/release/CMakeCache.txt
 	./build/release/lumerina_capturas docs docs
 	./build/release/lumerina_capturas paginas build/paginas
 	./build/release/lumerina_capturas ifs build/ifs
+	./build/release/lumerina_capturas caos build/caos
 
 clean:
 	rm -rf build

@@ -6,6 +6,8 @@
 #include "app/PaginaInicial.h"
 #include "complex/PaginaMandelbrot.h"
 #include "geometric/PaginaIFS.h"
+#include "geometric/PaginaJogoCaos.h"
+#include "geometric/PaginaTransformacoes.h"
 
 #include <QPointer>
 
@@ -47,6 +49,10 @@ QWidget* Criar(int numero)
         return new PaginaMandelbrot(Descricao(numero));
     case Form::IFS:
         return new PaginaIFS(Descricao(numero));
+    case Form::JogoCaos:
+        return new PaginaJogoCaos(Descricao(numero));
+    case Form::Transformacoes:
+        return new PaginaTransformacoes(Descricao(numero));
     case Form::Inicial:
         return new PaginaInicial(Descricao(numero));
     case Form::Instrucoes:
