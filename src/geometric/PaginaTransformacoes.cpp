@@ -20,6 +20,7 @@ namespace lumerina {
 namespace {
 
 const QString kTitulo = QStringLiteral("Transformações");
+const char* const kSemMapas = "Deve usar pelo menos uma transformação.";
 constexpr int kPainelX = 668;
 constexpr int kPainelLargura = 336;
 
@@ -240,7 +241,11 @@ void PaginaTransformacoes::Construir(int i)
 
 void PaginaTransformacoes::Desenhar()
 {
-    // A new figure, the one chosen now, and its first image.
+    // A new figure, the one chosen now, and its first image; a refusal keeps the old one.
+    if (MapasEmUso().empty()) {
+        Recusar(this, kTitulo, kSemMapas);
+        return;
+    }
     imagens_.emplace(Figura(figura_.Valor()));
     Mostrar(true);
 }
@@ -274,7 +279,7 @@ void PaginaTransformacoes::Mostrar(bool aplicar)
     if (aplicar) {
         // Refused before anything changes: the picture keeps the last level.
         if (mapas.empty()) {
-            Recusar(this, kTitulo, "Deve usar pelo menos uma transformação.");
+            Recusar(this, kTitulo, kSemMapas);
             return;
         }
         const long long segmentos = imagens_->SegmentosSeguinte(static_cast<int>(mapas.size()));

@@ -27,7 +27,7 @@ FiguraPlana Figura(FiguraBase base)
     return {{{0.6, 1}, {0, 1}, {0, 0}, {0, 0.5}, {0.4, 0.5}}, {3, 2}};
 }
 
-bool Contrai(const MapaAfim& mapa) { return mapa.MaiorValorSingular() < 1 - 1e-12; }
+bool Contrai(const MapaAfim& mapa) { return mapa.MaiorValorSingular() < 1 - 1e-9; }
 
 MapaAfim Translacao(double p, double q) { return {1, 0, 0, 1, p, q}; }
 
@@ -40,8 +40,11 @@ MapaAfim Rotacao(double graus)
         const int q = (static_cast<int>(std::fmod(graus / 90.0, 4.0)) + 4) % 4;
         return {kCos[q], -kSen[q], kSen[q], kCos[q], 0, 0};
     }
+    // To 12 decimals, so that sin 30° is 0.5 and not 0.49999999999999994 in the boxes.
     const double t = graus * (3.14159265358979323846 / 180);
-    return {std::cos(t), -std::sin(t), std::sin(t), std::cos(t), 0, 0};
+    const auto doze = [](double v) { return std::round(v * 1e12) / 1e12; };
+    const double c = doze(std::cos(t)), s = doze(std::sin(t));
+    return {c, -s, s, c, 0, 0};
 }
 
 MapaAfim Escala(double r, double s) { return {r, 0, 0, s, 0, 0}; }

@@ -31,14 +31,14 @@ FiguraPlana Figura(FiguraBase base);
 
 // The basic maps, with the coefficients of the comments' table.
 MapaAfim Translacao(double p, double q);       // 1 0 0 1 p q
-MapaAfim Rotacao(double graus);                // cos −sen sen cos 0 0
+MapaAfim Rotacao(double graus);                // cos −sen sen cos 0 0, to 12 decimals
 MapaAfim Escala(double r, double s);           // r 0 0 s 0 0
 MapaAfim ReflexaoEixoX();                      // 1 0 0 −1 0 0
 MapaAfim CisalhamentoHorizontal(double k);     // 1 k 0 1 0 0
 
 // Whether a map contracts every distance: its largest singular value is below 1, by more
-// than the rounding of its coefficients. A rotation built from cos θ and sin θ is an isometry
-// even when its computed singular value falls a few units in the last place under 1.
+// than the rounding of its coefficients. A rotation built from cos θ and sin θ to 12 decimals
+// is an isometry even when its computed singular value falls just under 1.
 bool Contrai(const MapaAfim& mapa);
 
 // No level may hold more segments than this: the figure would take too long to draw and
