@@ -5,7 +5,7 @@
 // three times) and Queen Anne's Lace (nine maps).
 
 #include "geometric/SistemaIFS.h"
-#include "interp/clsEquation.h"
+#include "interp/Aleatorio.h"
 
 #include <benchmark/benchmark.h>
 

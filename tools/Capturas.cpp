@@ -1,7 +1,10 @@
 // Pictures of the program made by the program itself, on the offscreen platform:
 //   lumerina_capturas docs            the main page, the Mandelbrot page after a drawing,
-//                                     a comments page and the save dialog
+//                                     a comments page, the save dialog, the IFS page after
+//                                     the fern, the L-systems page after a Koch island, the
+//                                     chaos game and the transformations page
 //   lumerina_capturas paginas PASTA   every information page, one PNG each
+//   lumerina_capturas lsistemas PASTA the L-systems page after each of its sixteen examples
 //   lumerina_capturas ifs PASTA       every system of the IFS page, one picture each
 //   lumerina_capturas caos PASTA      the chaos game after Auto, every figure of the copy
 //                                     machine at levels 1 to 6, the transformations page
@@ -13,6 +16,7 @@
 #include "app/Paginas.h"
 #include "frame/ControloImagem.h"
 #include "frame/Plataforma.h"
+#include "geometric/PaginaLSistemas.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -21,6 +25,7 @@
 #include <QDir>
 #include <QGroupBox>
 #include <QFileDialog>
+#include <QGroupBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -52,22 +57,6 @@ int Documentacao(const QString& pasta)
     // "Comentários" from the Mandelbrot page opens at its first page on the set.
     mandel->findChild<QAction*>("Comentários")->trigger();
     ok = Guardar(lumerina::Pagina(lumerina::Form::Comentarios), pasta + "/pagina-comentarios.png") && ok;
-    QWidget* ifs = lumerina::Pagina(lumerina::Form::IFS);
-    ifs->show();
-    ifs->findChild<QPushButton*>("FetoBarnsley")->click();
-    ok = Guardar(ifs, pasta + "/pagina-ifs.png") && ok;
-    QWidget* caos = lumerina::Pagina(lumerina::Form::JogoCaos);
-    caos->show();
-    caos->findChild<QPushButton*>("Automático")->click();
-    caos->findChild<QPushButton*>("DesenharQuadrado")->click();
-    caos->findChild<QPushButton*>("Command15")->click();
-    ok = Guardar(caos, pasta + "/pagina-jogo-caos.png") && ok;
-    QWidget* transformacoes = lumerina::Pagina(lumerina::Form::Transformacoes);
-    transformacoes->show();
-    transformacoes->findChild<QPushButton*>("ExemploSierpinski")->click();
-    for (int k = 0; k < 4; ++k)
-        transformacoes->findChild<QPushButton*>("AplicarNovamente")->click();
-    ok = Guardar(transformacoes, pasta + "/pagina-transformacoes.png") && ok;
     // Guardar's dialog, in European Portuguese like the rest of the program.
     const auto dialogo = lumerina::CriarDialogoGuardar(mandel, QStringLiteral("Mapa de bits (*.bmp)|*.bmp"));
     dialogo->setOption(QFileDialog::DontUseNativeDialog);
@@ -76,6 +65,40 @@ int Documentacao(const QString& pasta)
     dialogo->resize(640, 400);
     dialogo->show();
     ok = Guardar(dialogo.get(), pasta + "/dialogo-guardar.png") && ok;
+    QWidget* ifs = lumerina::Pagina(lumerina::Form::IFS);
+    ifs->show();
+    ifs->findChild<QPushButton*>("FetoBarnsley")->click();
+    ok = Guardar(ifs, pasta + "/pagina-ifs.png") && ok;
+    // The quadratic Koch island, example "12".
+    QWidget* lsistemas = lumerina::Pagina(lumerina::Form::LSistemas);
+    lsistemas->show();
+    lsistemas->findChild<QRadioButton*>("Option12")->click();
+    lsistemas->findChild<QPushButton*>("Desenhar")->click();
+    ok = Guardar(lsistemas, pasta + "/pagina-lsistemas.png") && ok;
+    QWidget* caos = lumerina::Pagina(lumerina::Form::JogoCaos);
+    caos->show();
+    caos->findChild<QPushButton*>("Automático")->click();
+    ok = Guardar(caos, pasta + "/pagina-jogo-caos.png") && ok;
+    QWidget* transformacoes = lumerina::Pagina(lumerina::Form::Transformacoes);
+    transformacoes->show();
+    transformacoes->findChild<QPushButton*>("ExemploSierpinski")->click();
+    for (int k = 0; k < 4; ++k)
+        transformacoes->findChild<QPushButton*>("AplicarNovamente")->click();
+    ok = Guardar(transformacoes, pasta + "/pagina-transformacoes.png") && ok;
+    return ok ? 0 : 1;
+}
+
+int ExemplosLSistemas(const QString& pasta)
+{
+    QDir().mkpath(pasta);
+    QWidget* pagina = lumerina::Pagina(lumerina::Form::LSistemas);
+    pagina->show();
+    bool ok = true;
+    for (const auto& e : lumerina::PaginaLSistemas::kExemplos) {
+        pagina->findChild<QRadioButton*>(e.botao)->click();
+        pagina->findChild<QPushButton*>("Desenhar")->click();
+        ok = Guardar(pagina, QStringLiteral("%1/exemplo-%2.png").arg(pasta, e.legenda)) && ok;
+    }
     return ok ? 0 : 1;
 }
 
@@ -221,12 +244,14 @@ int main(int argc, char* argv[])
         codigo = Documentacao(args[2]);
     else if (args.size() >= 3 && args[1] == "paginas")
         codigo = Paginas(args[2]);
+    else if (args.size() >= 3 && args[1] == "lsistemas")
+        codigo = ExemplosLSistemas(args[2]);
     else if (args.size() >= 3 && args[1] == "ifs")
         codigo = SistemasIFS(args[2]);
     else if (args.size() >= 3 && args[1] == "caos")
         codigo = JogoCaos(args[2]);
     else
-        std::fprintf(stderr, "uso: lumerina_capturas docs PASTA | paginas PASTA | ifs PASTA | caos PASTA\n");
+        std::fprintf(stderr, "uso: lumerina_capturas docs PASTA | paginas PASTA | lsistemas PASTA | ifs PASTA | caos PASTA\n");
     lumerina::FecharLumerina();
     return codigo;
 }

@@ -6,6 +6,7 @@
 #include "app/PaginaInicial.h"
 #include "complex/PaginaMandelbrot.h"
 #include "geometric/PaginaIFS.h"
+#include "geometric/PaginaLSistemas.h"
 #include "geometric/PaginaJogoCaos.h"
 #include "geometric/PaginaTransformacoes.h"
 
@@ -49,6 +50,8 @@ QWidget* Criar(int numero)
         return new PaginaMandelbrot(Descricao(numero));
     case Form::IFS:
         return new PaginaIFS(Descricao(numero));
+    case Form::LSistemas:
+        return new PaginaLSistemas(Descricao(numero));
     case Form::JogoCaos:
         return new PaginaJogoCaos(Descricao(numero));
     case Form::Transformacoes:

@@ -158,6 +158,18 @@ struct GrelhaPixeis {
     }
 };
 
+// Every pixel of `origem` in the colour `cor` is set in `destino` too (pictures of one size).
+inline void CopiarCor(const Tela& origem, const Tela& destino, std::uint32_t cor)
+{
+    for (int y = 0; y < origem.altura; ++y) {
+        const std::uint32_t* de = origem.pixeis + y * origem.passo;
+        std::uint32_t* para = destino.pixeis + y * destino.passo;
+        for (int x = 0; x < origem.largura; ++x)
+            if (de[x] == cor)
+                para[x] = cor;
+    }
+}
+
 // The random iteration of one system. `Avancar` may be called in slices (the page repaints
 // between them); the point and the step count carry over.
 class IteracaoIFS {
@@ -170,18 +182,23 @@ public:
     template <class Uniforme, class Desenhar>
     void Avancar(long long passos, Uniforme&& uniforme, Desenhar&& ponto)
     {
+        // Everything the loop reads lives in locals, so that no pixel written by `ponto`
+        // can be taken for one of them by the compiler.
         const MapaAfim* mapas = sistema_.mapas.data();
         const double k = sistema_.moldura.k, ox = sistema_.moldura.ox, oy = sistema_.moldura.oy;
+        const TabelaMapas escolha = escolha_;
         Ponto p = p_;
+        long long n = n_;
         for (long long i = 0; i < passos; ++i) {
             const int r = int(uniforme() * 100);
-            const int m = escolha_[r];
+            const int m = escolha[r];
             if (m >= 0)
                 p = mapas[m](p);
-            if (++n_ > kTransitorio)
+            if (++n > kTransitorio)
                 ponto(float(k * p.x - ox), float(k * p.y - oy));
         }
         p_ = p;
+        n_ = n;
     }
 
     Ponto Actual() const { return p_; }
@@ -206,11 +223,22 @@ void DesenharIFS(const SistemaIFS& sistema, long long passos, std::span<const Te
         return;
     const GrelhaPixeis grelha(sistema.moldura.escala, telas[0].largura, telas[0].altura);
     IteracaoIFS iteracao(sistema);
-    const auto desenhar = [&](float x, float y) {
+    // The first two pictures are copied into the loop (the page draws on one or two; any
+    // further ones are reached through the list).
+    std::uint32_t* const p0 = telas[0].pixeis;
+    const std::ptrdiff_t passo0 = telas[0].passo;
+    std::uint32_t* const p1 = telas.size() > 1 ? telas[1].pixeis : nullptr;
+    const std::ptrdiff_t passo1 = telas.size() > 1 ? telas[1].passo : 0;
+    const std::span<const Tela> outras = telas.size() > 2 ? telas.subspan(2) : std::span<const Tela>();
+    const auto desenhar = [grelha, p0, passo0, p1, passo1, outras, cor](float x, float y) {
         int px, py;
-        if (grelha.Pixel(x, y, px, py))
-            for (const Tela& t : telas)
-                t.pixeis[py * t.passo + px] = cor;
+        if (!grelha.Pixel(x, y, px, py))
+            return;
+        p0[py * passo0 + px] = cor;
+        if (p1)
+            p1[py * passo1 + px] = cor;
+        for (const Tela& t : outras)
+            t.pixeis[py * t.passo + px] = cor;
     };
     for (long long feitos = 0; feitos < passos;) {
         const long long agora = passos - feitos < bloco ? passos - feitos : bloco;

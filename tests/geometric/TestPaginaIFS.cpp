@@ -6,7 +6,7 @@
 #include "frame/JanelaDesenho.h"
 #include "geometric/PaginaIFS.h"
 #include "geometric/SistemaIFS.h"
-#include "interp/clsEquation.h"
+#include "interp/Aleatorio.h"
 #include "support/PlataformaGravadora.h"
 
 #include <QGroupBox>
@@ -201,6 +201,46 @@ TEST_F(IFS, CorImagemNosPontosSeguintes)
         EXPECT_GT(certos, 1000) << (p.escolha ? p.escolha : "cancelled");
         EXPECT_EQ(outros, 0) << (p.escolha ? p.escolha : "cancelled");
     }
+}
+
+TEST_F(IFS, DuasVezesNoMesmoInstanteDesenhosDiferentes)
+{
+    // The clock stands still (a fixed millisecond): a drawing still reseeds into a state of
+    // its own, so the same system drawn twice lands on different pixels.
+    Iteracoes("400");
+    Premir("FetoBarnsley");
+    const QImage primeiro = imagem1->Imagem();
+    Premir("ApagarGráfico");
+    Premir("FetoBarnsley");
+    EXPECT_GT(Desenhados(), 200);
+    EXPECT_NE(imagem1->Imagem(), primeiro);
+}
+
+TEST_F(IFS, PontosDaCorDoFundoApagamOsAnteriores)
+{
+    // The triangle's corners show at pixels (11, 615), (615, 615) and (11, 11): it lies below
+    // the diagonal y = x. Black lace over the whole picture, a black triangle, then a white
+    // triangle: drawn in the background's colour, it rubs out the points beneath it on
+    // Picture1 and nothing else.
+    const auto contar = [&](bool abaixo) {
+        const QImage& img = imagem1->Imagem();
+        int n = 0;
+        for (int y = 0; y < img.height(); ++y)
+            for (int x = 0; x < img.width(); ++x)
+                if ((abaixo ? y > x + 2 : y < x - 2) && img.pixel(x, y) != imagem1->CorFundo())
+                    ++n;
+        return n;
+    };
+    Iteracoes("100000");
+    Premir("QueenLace");
+    Premir("TriânguloSpier");
+    const int acima = contar(false), abaixo = contar(true);
+    sistema->coresEscolhidas.push_back(QColor(Qt::white));
+    Premir("CorGráfico");
+    Premir("TriânguloSpier");
+    EXPECT_EQ(contar(false), acima);
+    EXPECT_LT(contar(true), abaixo - 10000);
+    EXPECT_GT(contar(true), 1000);  // the lace between the triangle's points stays
 }
 
 TEST_F(IFS, PaginasDeExemplos)

@@ -2,7 +2,7 @@
 // single-precision plotting, and every system's data and picture.
 
 #include "geometric/SistemaIFS.h"
-#include "interp/clsEquation.h"
+#include "interp/Aleatorio.h"
 
 #include <gtest/gtest.h>
 
@@ -294,6 +294,18 @@ TEST(DesenharIFS, CadaPontoEmTodasAsTelasEProgressoPorBloco)
         for (int x = 64; x < 80; ++x)
             EXPECT_EQ(b[y * 80 + x], 0u) << "outside the picture, in the stride";
     EXPECT_GT(acesos, 200);
+}
+
+TEST(DesenharIFS, CopiarCorLevaSoOsPixeisDessaCor)
+{
+    // 3 x 2 pictures, the source with a wider stride: only the pixels of colour 7 travel, and
+    // they cover whatever the destination held.
+    const std::uint32_t origem[] = {7, 1, 7, 99, 0, 7, 2, 99};
+    std::uint32_t destino[] = {5, 5, 5, 5, 5, 5};
+    CopiarCor({const_cast<std::uint32_t*>(origem), 3, 2, 4}, {destino, 3, 2, 3}, 7);
+    const std::uint32_t esperado[] = {7, 5, 7, 5, 7, 5};
+    for (int i = 0; i < 6; ++i)
+        EXPECT_EQ(destino[i], esperado[i]) << "pixel " << i;
 }
 
 // ---------------------------------------------------------------------------------------------
