@@ -218,22 +218,15 @@ void ControloImagem::CanetaLarga(QImage& img, const QRect* caixa, QLineF linha, 
 void ControloImagem::Pixel(double x, double y, QRgb cor)
 {
     const int px = Arredondar(PixelX(x)), py = Arredondar(PixelY(y));
-    if (espessura_ == 1) {
-        NasCamadas([&](QImage& img) { PontoNaImagem(img, px, py, cor); });
-        Agendar(QRect(px, py, 1, 1));
-        return;
-    }
-    // A wide pen sets a round dot of that diameter centred on the point: the pixels whose
-    // centres lie within a radius of width/2.
-    const int r = espessura_ / 2;
-    const double raio2 = (espessura_ / 2.0) * (espessura_ / 2.0);
+    // A wide pen sets a square dot of its width centred on the point.
+    const int r = (espessura_ - 1) / 2;
+    const QRect ponto(px - r, py - r, espessura_, espessura_);
     NasCamadas([&](QImage& img) {
-        for (int dy = -r; dy <= r; ++dy)
-            for (int dx = -r; dx <= r; ++dx)
-                if (dx * dx + dy * dy <= raio2)
-                    PontoNaImagem(img, px + dx, py + dy, cor);
+        for (int v = ponto.top(); v <= ponto.bottom(); ++v)
+            for (int u = ponto.left(); u <= ponto.right(); ++u)
+                PontoNaImagem(img, u, v, cor);
     });
-    Agendar(QRect(px - r, py - r, 2 * r + 1, 2 * r + 1));
+    Agendar(ponto);
 }
 
 void ControloImagem::Linha(double x1, double y1, double x2, double y2, QRgb cor)
@@ -309,6 +302,12 @@ void ControloImagem::Sujar(const QRect& rect, bool agora)
         p.drawImage(util.topLeft(), persistente_, util);
     }
     Agendar(util, agora);
+}
+
+QRgb* ControloImagem::LinhaEcra(int y)
+{
+    SepararEcra();
+    return reinterpret_cast<QRgb*>(ecra_.scanLine(y));
 }
 
 void ControloImagem::Agendar(const QRect& rect, bool agora)

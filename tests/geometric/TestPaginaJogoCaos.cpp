@@ -108,10 +108,8 @@ TEST_F(JogoCaosPagina, IniciarDesenhaVerticesELadosPontilhados)
 {
     Premir("IniciarCaos");
     EXPECT_EQ(Texto("Iterações"), "0");
-    // Dots of width 7 in colours 9, 10 and 11 of the palette, under the dotted sides drawn
-    // after them. (sx, sy) points away from the triangle, off the sides: 2 pixels each way and
-    // 3 along the row are in the dot, 4 along the row and 3 each way (beyond the radius 3.5)
-    // are not.
+    // Dots of width 7 (3 pixels each way) in colours 9, 10 and 11 of the palette, under the
+    // dotted sides drawn after them. (sx, sy) points away from the triangle, off the sides.
     struct Vertice { int x, y, sx, sy; QRgb cor; };
     const Vertice vertices[] = {
         {63, 565, -1, 1, 0x0000FF}, {565, 565, 1, 1, 0x00FF00}, {63, 63, -1, -1, 0x00FFFF},
@@ -122,7 +120,8 @@ TEST_F(JogoCaosPagina, IniciarDesenhaVerticesELadosPontilhados)
         EXPECT_EQ(cor(v.x + 2 * v.sx, v.y + 2 * v.sy), v.cor);
         EXPECT_EQ(cor(v.x + 3 * v.sx, v.y), v.cor);
         EXPECT_EQ(cor(v.x + 4 * v.sx, v.y), 0xFFFFFFu);
-        EXPECT_EQ(cor(v.x + 3 * v.sx, v.y + 3 * v.sy), 0xFFFFFFu);
+        EXPECT_EQ(cor(v.x + 3 * v.sx, v.y + 3 * v.sy), v.cor);
+        EXPECT_EQ(cor(v.x + 4 * v.sx, v.y + 4 * v.sy), 0xFFFFFFu);
     }
     // The sides are dotted black: along the bottom row every other pixel.
     int pretos = 0, brancos = 0;
