@@ -3,6 +3,7 @@
 #include "complex/Julia.h"
 #include "complex/MetodoNewton.h"
 #include "complex/TempoFuga.h"
+#include "dynamics/Atractores.h"
 #include "frame/EsquemaCores.h"
 #include "geometric/Construcoes.h"
 #include "geometric/LSistema.h"
@@ -23,8 +24,7 @@ namespace {
 const QColor kFundo(0x10, 0x24, 0x4a);
 const QColor kMoldura(0xf3, 0xc9, 0x69, 110);
 
-}  // namespace
-
+// A blank picture of `tamanho` device-independent pixels at the given ratio.
 QImage NovaFigura(QSize tamanho, qreal escala)
 {
     QImage imagem(tamanho * escala, QImage::Format_RGB32);
@@ -40,8 +40,6 @@ void Emoldurar(QImage& imagem)
     const QSizeF t = imagem.deviceIndependentSize();
     pintor.drawRect(QRectF(0.5, 0.5, t.width() - 1, t.height() - 1));
 }
-
-namespace {
 
 // World window [x0, x1] centred on y = yc, with the picture's own aspect.
 struct Janela {
@@ -202,6 +200,36 @@ QImage FiguraSierpinski(QSize tamanho, qreal escala)
             const auto p = [&](Ponto q) { return origem + QPointF(q.x * lado, -q.y * lado); };
             pintor.drawPolygon(QPolygonF({p(tr.a), p(tr.b), p(tr.c)}));
         }
+    }
+    Emoldurar(imagem);
+    return imagem;
+}
+
+QImage FiguraAtractor(QSize tamanho, qreal escala)
+{
+    QImage imagem = NovaFigura(tamanho, escala);
+    // The attractors page's Lorenz stepper with Lorenz's own constants (σ = 10, ρ = 28,
+    // β = 8/3), plotted as that page plots it, (x/2, z/2): the two wings side by side.
+    Atractor lorenz = Lorenz{.a = 10, .b = 28, .c = 8.0 / 3};
+    constexpr int kTransitorio = 2000, kPontos = 40000;
+    std::vector<Ponto> pontos(kTransitorio + kPontos);
+    Pontos(lorenz, pontos.data(), int(pontos.size()));
+    std::vector<QPointF> linha;
+    linha.reserve(kPontos);
+    for (std::size_t k = kTransitorio; k < pontos.size(); ++k)
+        linha.emplace_back(pontos[k].x, pontos[k].y);
+    {
+        QPainter pintor(&imagem);
+        pintor.setRenderHint(QPainter::Antialiasing);
+        const QSizeF t = imagem.deviceIndependentSize();
+        // x/2 in [−11, 11] and z/2 in [1, 25] fill the height; the width is centred.
+        const double porUnidade = (t.height() - 8) / 24.0;
+        QTransform mundo;
+        mundo.translate(t.width() / 2, t.height() - 4 + 1 * porUnidade);
+        mundo.scale(porUnidade, -porUnidade);
+        pintor.setTransform(mundo);
+        pintor.setPen(QPen(QColor(0xff, 0x9e, 0x5e, 150), 0));
+        pintor.drawPolyline(linha.data(), int(linha.size()));
     }
     Emoldurar(imagem);
     return imagem;

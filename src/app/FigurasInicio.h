@@ -12,11 +12,6 @@
 
 namespace lumerina {
 
-// What every picture starts from: the background, at the given size and ratio; and the thin
-// frame drawn round it at the end.
-QImage NovaFigura(QSize tamanho, qreal escala);
-void Emoldurar(QImage& imagem);
-
 QImage FiguraMandelbrot(QSize tamanho, qreal escala);
 QImage FiguraJulia(QSize tamanho, qreal escala);
 QImage FiguraFeto(QSize tamanho, qreal escala);

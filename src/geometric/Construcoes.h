@@ -15,7 +15,7 @@
 // Stages below 0 are stage 0. The piece counts grow fast (9^n squares for Haferman's carpet),
 // so callers keep n small: the pages draw stages 0 to 3.
 
-#include "geometric/MapaAfim.h"  // Ponto
+#include "frame/Ponto.h"
 
 #include <vector>
 
