@@ -14,6 +14,8 @@
 #include "geometric/PaginaLSistemas.h"
 #include "geometric/PaginaJogoCaos.h"
 #include "geometric/PaginaTransformacoes.h"
+#include "complex/PaginaOrbitas.h"
+#include "geometric/PaginaDimensao.h"
 
 #include <QPointer>
 
@@ -67,6 +69,10 @@ QWidget* Criar(int numero)
         return new PaginaTransformacoes(Descricao(numero));
     case Form::Atractores:
         return new PaginaAtractores(Descricao(numero));
+    case Form::Orbitas:
+        return new PaginaOrbitas(Descricao(numero));
+    case Form::Dimensao:
+        return new PaginaDimensao(Descricao(numero));
     case Form::Inicial:
         return new PaginaInicial(Descricao(numero));
     case Form::Newton:

@@ -15,6 +15,7 @@ enum class Iteracao { Complexa, Coseno, QuadraticaReal };
 
 struct PontoOrbita {
     double x = 0, y = 0;  // y is 0 in the real iterations
+    bool operator==(const PontoOrbita&) const = default;
 };
 
 // One step of the iteration (c = cx + i·cy; the real ones use cx only).

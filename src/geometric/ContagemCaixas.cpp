@@ -71,8 +71,8 @@ Dimensao MedirDimensao(const Mascara& mascara)
     if (d.caixas.empty() || d.caixas.front().contagem == 0)
         return d;
     for (const LinhaCaixas& l : d.caixas) {
-        d.u.push_back(-std::log(static_cast<double>(l.lado)));
-        d.v.push_back(std::log(static_cast<double>(l.contagem)));
+        d.u.push_back(-std::log10(static_cast<double>(l.lado)));
+        d.v.push_back(std::log10(static_cast<double>(l.contagem)));
     }
     d.ajuste = MinimosQuadrados(d.u, d.v);
     d.valida = true;

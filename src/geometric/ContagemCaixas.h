@@ -54,7 +54,7 @@ Ajuste MinimosQuadrados(const std::vector<double>& u, const std::vector<double>&
 struct Dimensao {
     bool valida = false;  // false when the mask has no figure pixel
     std::vector<LinhaCaixas> caixas;
-    std::vector<double> u, v;  // log(1/s) and log N(s), natural logarithms
+    std::vector<double> u, v;  // log(1/s) and log N(s), logarithms to base 10
     Ajuste ajuste;
 };
 

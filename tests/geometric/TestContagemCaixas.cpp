@@ -87,7 +87,7 @@ TEST(ContagemCaixas, DimensoesExactasEProximas)
         EXPECT_NEAR(d.ajuste.declive, c.D, c.tolerancia) << c.nome;
         EXPECT_GT(d.ajuste.r2, 0.999) << c.nome;
         ASSERT_EQ(d.u.size(), 7u);
-        EXPECT_DOUBLE_EQ(d.u[0], -std::log(2.0)) << c.nome << ": u = log(1/s)";
+        EXPECT_DOUBLE_EQ(d.u[0], -std::log10(2.0)) << c.nome << ": u = log(1/s)";
     }
 }
 
