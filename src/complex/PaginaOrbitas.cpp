@@ -70,7 +70,7 @@ QString Complexo(PontoOrbita z)
 {
     if (z.y == 0)
         return TextoNumero(z.x);
-    const QString imaginaria = TextoNumero(std::abs(z.y)) + QStringLiteral("i");
+    const QString imaginaria = (std::abs(z.y) == 1 ? QString() : TextoNumero(std::abs(z.y))) + QStringLiteral("i");
     if (z.x == 0)
         return z.y < 0 ? QStringLiteral("-") + imaginaria : imaginaria;
     return TextoNumero(z.x) + (z.y < 0 ? QStringLiteral(" - ") : QStringLiteral(" + ")) + imaginaria;
