@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 #include <vector>
 
 namespace lumerina {
@@ -252,7 +253,7 @@ void PaginaOrbitas::DesenharFundo()
         const double r = orbita_->Raio();
         constexpr int kLados = 180;
         for (int k = 0; k < kLados; ++k) {
-            const double a = 2 * M_PI * k / kLados, b = 2 * M_PI * (k + 1) / kLados;
+            const double a = 2 * std::numbers::pi * k / kLados, b = 2 * std::numbers::pi * (k + 1) / kLados;
             imagem->Linha(r * std::cos(a), r * std::sin(a), r * std::cos(b), r * std::sin(b), kDiagonal);
         }
         imagem->DefinirEstilo(EstiloTraco::Continuo);
