@@ -53,6 +53,14 @@ TEST(ContagemCaixas, ContagensDaGrelhaPresaAoCantoSuperiorEsquerdo)
         EXPECT_EQ(c[1].contagem, p.n4) << p.xa << "," << p.xb;
         EXPECT_EQ(c[2].contagem, p.n8) << p.xa << "," << p.xb;
     }
+    // Any nonzero byte is a figure pixel, and a box counts once however many it holds.
+    Mascara bytes(5, 5);
+    bytes(0, 0) = 255;
+    bytes(1, 1) = 7;
+    bytes(4, 4) = 2;
+    EXPECT_EQ(ContarCaixas(bytes)[0].contagem, 2);
+    EXPECT_EQ(ContarCaixas(bytes)[1].contagem, 2);
+    EXPECT_EQ(ContarCaixas(bytes)[2].contagem, 1);
     // The same along y: a column in a tall, thin mask.
     const Mascara coluna = Preencher(3, 1000, [](int x, int) { return x == 2; });
     EXPECT_EQ(ContarCaixas(coluna)[0].contagem, 500);
