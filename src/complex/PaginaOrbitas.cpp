@@ -108,7 +108,6 @@ PaginaOrbitas::PaginaOrbitas(const DescricaoPagina& descricao, QWidget* pai)
     valorD_ = Campo(parametros, "ValorDeD", "0", {180, 20, 100, 24});
     Rotulo(parametros, "x₀ =", {10, 52, 30, 22});
     valorX0_ = Campo(parametros, "ValorX0", "0", {38, 50, 100, 24});
-    Rotulo(parametros, "(nos diagramas em teia)", {144, 52, 180, 22});
 
     QGroupBox* passos = Quadro(area, "Passos", {kPainelX, 218, kPainelLargura, 94});
     QPushButton* passo = Botao(passos, "Passo", "Passo", {8, 22, 76, 28}, "Calcular o ponto seguinte.");
@@ -166,10 +165,10 @@ PaginaOrbitas::PaginaOrbitas(const DescricaoPagina& descricao, QWidget* pai)
     for (const auto& [botao, valor] : modo_.Opcoes())
         connect(botao, &QRadioButton::toggled, this, [this](bool ligado) {
             if (ligado)
-                Recomecar();
+                MudarModo();
         });
 
-    Iniciar(ParametrosActuais());
+    MudarModo();
 }
 
 PaginaOrbitas::Parametros PaginaOrbitas::ParametrosActuais() const
@@ -344,9 +343,9 @@ void PaginaOrbitas::MostrarSituacao(ResultadoPasso resultado)
     }
     const int periodo = o.Periodo();
     if (periodo == 1)
-        texto = QStringLiteral("A órbita chegou a um ponto fixo (passo %1).").arg(o.Passos());
+        texto = QStringLiteral("A órbita chegou a um ponto fixo.");
     else if (periodo > 1)
-        texto = QStringLiteral("A órbita entrou num ciclo de período %1 (passo %2).").arg(periodo).arg(o.Passos());
+        texto = QStringLiteral("A órbita entrou num ciclo de período %1.").arg(periodo);
     if (resultado == ResultadoPasso::Transbordou)
         texto += QStringLiteral(" O ponto seguinte excede a capacidade do computador.");
     else if (resultado == ResultadoPasso::Limite)
@@ -371,6 +370,16 @@ void PaginaOrbitas::Parar()
     relogio_->stop();
     automatico_->setEnabled(true);
     parar_->setEnabled(false);
+}
+
+void PaginaOrbitas::MudarModo()
+{
+    // Only the fields the mode reads can be typed in.
+    const Iteracao it = modo_.Valor();
+    valorC_->setEnabled(it != Iteracao::Coseno);
+    valorD_->setEnabled(it == Iteracao::Complexa);
+    valorX0_->setEnabled(it != Iteracao::Complexa);
+    Recomecar();
 }
 
 void PaginaOrbitas::Recomecar()

@@ -49,6 +49,7 @@ private:
     void Automatico();
     void Parar();
     void Recomecar();
+    void MudarModo();
     void Apagado();
     void EscolherPonto(Qt::MouseButton botao, double x, double y);
     void MudarVelocidade(int passosPorSegundo);
