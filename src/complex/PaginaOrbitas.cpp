@@ -149,7 +149,7 @@ PaginaOrbitas::PaginaOrbitas(const DescricaoPagina& descricao, QWidget* pai)
     janela_->Copiar()->move(118, 24);
     janela_->Apagar()->move(228, 24);
 
-    // The only timer of the program: the automatic steps.
+    // The automatic steps: the one timer that drives work in the program.
     relogio_ = new QTimer(this);
     relogio_->setObjectName(QStringLiteral("Timer1"));
     MudarVelocidade(velocidade_->value());
