@@ -28,9 +28,9 @@ double MapaReal(Iteracao iteracao, double x, double c)
     return PassoOrbita(iteracao, {x, 0}, c, 0).x;
 }
 
-std::array<Segmento, 2> SegmentosTeia(double xn, double xn1)
+std::array<SegmentoTeia, 2> SegmentosTeia(double xn, double xn1)
 {
-    return {Segmento{xn, xn, xn, xn1}, Segmento{xn, xn1, xn1, xn1}};
+    return {SegmentoTeia{xn, xn, xn, xn1}, SegmentoTeia{xn, xn1, xn1, xn1}};
 }
 
 Orbita::Orbita(Iteracao iteracao, PontoOrbita z0, double cx, double cy)

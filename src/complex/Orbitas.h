@@ -27,10 +27,10 @@ double MapaReal(Iteracao iteracao, double x, double c);
 // The cobweb of one real step x_n -> x_{n+1} = f(x_n): the vertical segment from the diagonal
 // to the graph, (x_n, x_n) -> (x_n, x_{n+1}), and the horizontal one back to the diagonal,
 // (x_n, x_{n+1}) -> (x_{n+1}, x_{n+1}).
-struct Segmento {
+struct SegmentoTeia {
     double x1, y1, x2, y2;
 };
-std::array<Segmento, 2> SegmentosTeia(double xn, double xn1);
+std::array<SegmentoTeia, 2> SegmentosTeia(double xn, double xn1);
 
 // What one call of Orbita::Avancar did.
 enum class ResultadoPasso {

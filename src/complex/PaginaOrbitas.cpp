@@ -318,7 +318,7 @@ void PaginaOrbitas::Passo()
             imagem->Linha(antes.x, antes.y, agora.x, agora.y, kCaminho);
             DesenharPonto(agora, kPonto);
         } else {
-            for (const Segmento& s : SegmentosTeia(antes.x, agora.x))
+            for (const SegmentoTeia& s : SegmentosTeia(antes.x, agora.x))
                 imagem->Linha(s.x1, s.y1, s.x2, s.y2, kTeia);
         }
         AcrescentarLinha(n);

@@ -154,5 +154,19 @@ TEST_F(Dimensao, MedeOQuadroDeOutraPagina)
     EXPECT_NEAR(D(), 1, 0.02);
 }
 
+TEST_F(Dimensao, MedeAIlhaDeKochDasLSistemas)
+{
+    // Example "12" of the L-systems page: the quadratic Koch island, whose coastline is made of
+    // 8 copies of itself at a quarter of the size, D = log 8 / log 4 = 1.5. Its last stage is
+    // drawn with steps of a pixel, so the smallest boxes see the grain: a tenth or two.
+    QWidget* lsistemas = Pagina(Form::LSistemas);
+    lsistemas->show();
+    lsistemas->findChild<QRadioButton*>(QStringLiteral("Option12"))->click();
+    lsistemas->findChild<QPushButton*>(QStringLiteral("Desenhar"))->click();
+    Medir("L-Sistemas");
+    EXPECT_TRUE(sistema->mensagens.empty());
+    EXPECT_NEAR(D(), 1.5, 0.15);
+}
+
 }  // namespace
 }  // namespace lumerina::teste
