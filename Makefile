@@ -61,6 +61,7 @@ capturas: deps build/release/CMakeCache.txt
 	./build/release/lumerina_capturas ifs build/ifs
 	./build/release/lumerina_capturas caos build/caos
 	./build/release/lumerina_capturas sucessoes build/sucessoes
+	./build/release/lumerina_capturas orbitas-dimensao build/orbitas-dimensao
 
 clean:
 	rm -rf build

@@ -16,6 +16,9 @@
 //                                     with each example and each figure at levels 1 to 8
 //   lumerina_capturas sucessoes PASTA the sequences page: every example's construction and
 //                                     every sheet of its solution
+//   lumerina_capturas orbitas-dimensao PASTA
+//                                     the orbits page on each example of its instructions, and
+//                                     every figure of the dimension page, measured
 // `make capturas` runs them all.
 
 #include "app/Aplicacao.h"
@@ -56,6 +59,10 @@ bool Guardar(QWidget* pagina, const QString& ficheiro)
     std::printf("%s %s\n", feito ? "escrito" : "FALHOU", qPrintable(ficheiro));
     return feito;
 }
+
+bool Orbita(const QString& ficheiro, const char* modo, const char* c, const char* d, const char* x0,
+            int passos);
+bool Dimensao(const QString& ficheiro, int figura);
 
 int Documentacao(const QString& pasta)
 {
@@ -140,6 +147,10 @@ int Documentacao(const QString& pasta)
     sucessoes->findChild<QPushButton*>("VerSolução")->click();
     sucessoes->findChild<QToolButton*>("SetaD3")->click();
     ok = Guardar(sucessoes, pasta + "/pagina-sucessoes-solucao.png") && ok;
+    // The orbit of 0 for c = -0.75 + 0.1i, near the boundary; box counting on a Sierpinski
+    // triangle.
+    ok = Orbita(pasta + "/pagina-orbitas.png", "ModoOrbita", "-0.75", "0.1", "0", 36) && ok;
+    ok = Dimensao(pasta + "/pagina-dimensao.png", 3) && ok;
     return ok ? 0 : 1;
 }
 
@@ -360,6 +371,68 @@ int JogoCaos(const QString& pasta)
     return ok ? 0 : 1;
 }
 
+// The orbits page in a mode, with c and x0 typed, after `passos` steps.
+bool Orbita(const QString& ficheiro, const char* modo, const char* c, const char* d, const char* x0,
+            int passos)
+{
+    QWidget* pagina = lumerina::Pagina(lumerina::Form::Orbitas);
+    pagina->show();
+    pagina->findChild<QRadioButton*>(QString::fromUtf8(modo))->setChecked(true);
+    pagina->findChild<QLineEdit*>("ValorDeC")->setText(c);
+    pagina->findChild<QLineEdit*>("ValorDeD")->setText(d);
+    pagina->findChild<QLineEdit*>("ValorX0")->setText(x0);
+    auto* passo = pagina->findChild<QPushButton*>("Passo");
+    for (int k = 0; k < passos; ++k)
+        passo->click();
+    const bool ok = Guardar(pagina, ficheiro);
+    pagina->hide();
+    return ok;
+}
+
+// The dimension page: figure k drawn, then measured by box counting.
+bool Dimensao(const QString& ficheiro, int figura)
+{
+    QWidget* pagina = lumerina::Pagina(lumerina::Form::Dimensao);
+    pagina->show();
+    pagina->findChild<QRadioButton*>("AutoSemelhanca")->setChecked(true);
+    pagina->findChild<QComboBox*>("Figura")->setCurrentIndex(figura);
+    pagina->findChild<QPushButton*>("Desenhar")->click();
+    pagina->findChild<QRadioButton*>("ContagemCaixas")->setChecked(true);
+    pagina->findChild<QComboBox*>("Origem")->setCurrentIndex(0);
+    pagina->findChild<QPushButton*>("Medir")->click();
+    return Guardar(pagina, ficheiro);
+}
+
+int OrbitasDimensao(const QString& pasta)
+{
+    QDir().mkpath(pasta);
+    AbrirLumerina();
+    bool ok = true;
+    struct Caso { const char* nome; const char* modo; const char* c; const char* d; const char* x0; int passos; };
+    const Caso casos[] = {
+        {"orbita-c1", "ModoOrbita", "1", "0", "0", 8},
+        {"orbita-c-1", "ModoOrbita", "-1", "0", "0", 8},
+        {"orbita-ci", "ModoOrbita", "0", "1", "0", 8},
+        {"orbita-coelho", "ModoOrbita", "-0.12", "0.75", "0", 40},
+        {"coseno", "ModoCoseno", "0", "0", "1", 30},
+        {"quadratica-0.3", "ModoQuadratica", "0.3", "0", "0", 30},
+        {"quadratica-0.5", "ModoQuadratica", "-0.5", "0", "0", 30},
+        {"quadratica-1", "ModoQuadratica", "-1", "0", "0", 10},
+        {"quadratica-1.3", "ModoQuadratica", "-1.3", "0", "0", 60},
+        {"quadratica-1.76", "ModoQuadratica", "-1.76", "0", "0", 80},
+        {"quadratica-1.9", "ModoQuadratica", "-1.9", "0", "0", 80},
+    };
+    for (const Caso& c : casos)
+        ok = Orbita(pasta + "/" + c.nome + ".png", c.modo, c.c, c.d, c.x0, c.passos) && ok;
+    QWidget* dimensao = lumerina::Pagina(lumerina::Form::Dimensao);
+    for (int k = 0; k < 7; ++k) {
+        ok = Dimensao(pasta + QStringLiteral("/dimensao-%1.png").arg(k), k) && ok;
+        dimensao->findChild<QRadioButton*>("AutoSemelhanca")->setChecked(true);
+        ok = Guardar(dimensao, pasta + QStringLiteral("/semelhanca-%1.png").arg(k)) && ok;
+    }
+    return ok ? 0 : 1;
+}
+
 }  // namespace
 
 int main(int argc, char* argv[])
@@ -383,9 +456,12 @@ int main(int argc, char* argv[])
         codigo = JogoCaos(args[2]);
     else if (args.size() >= 3 && args[1] == "sucessoes")
         codigo = Sucessoes(args[2]);
+    else if (args.size() >= 3 && args[1] == "orbitas-dimensao")
+        codigo = OrbitasDimensao(args[2]);
     else
         std::fprintf(stderr, "uso: lumerina_capturas docs PASTA | paginas PASTA | lsistemas PASTA"
-                             " | ifs PASTA | julia PASTA | caos PASTA | sucessoes PASTA\n");
+                             " | ifs PASTA | julia PASTA | caos PASTA | sucessoes PASTA"
+                             " | orbitas-dimensao PASTA\n");
     lumerina::FecharLumerina();
     return codigo;
 }
