@@ -168,5 +168,16 @@ TEST_F(Dimensao, MedeAIlhaDeKochDasLSistemas)
     EXPECT_NEAR(D(), 1.5, 0.15);
 }
 
+TEST_F(Dimensao, MedeOTrianguloDeSierpinskiDoIFS)
+{
+    // The IFS page's Sierpinski triangle: three maps of ratio 1/2, D = log 3 / log 2.
+    QWidget* ifs = Pagina(Form::IFS);
+    ifs->show();
+    ifs->findChild<QPushButton*>(QString::fromUtf8("TriânguloSpier"))->click();
+    Medir("IFS");
+    EXPECT_TRUE(sistema->mensagens.empty());
+    EXPECT_NEAR(D(), std::log(3.0) / std::log(2.0), 0.04);
+}
+
 }  // namespace
 }  // namespace lumerina::teste
