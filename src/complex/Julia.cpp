@@ -1,4 +1,5 @@
 #include "complex/Julia.h"
+#include "complex/Vectores.h"
 
 #include "interp/clsEquation.h"
 
@@ -11,16 +12,13 @@
 #include <cstdlib>
 #include <vector>
 
-#if defined(__x86_64__) || defined(__i386__)
-#include <immintrin.h>
-#define LUMERINA_X86 1
-#endif
 
 namespace lumerina {
 namespace {
 
-typedef double V2d __attribute__((vector_size(16)));
-typedef double V4d __attribute__((vector_size(32)));
+using vectores::V2d;
+using vectores::V4d;
+using vectores::Testar;
 
 // One step of z <- z² + k on the squares sx = x², sy = y² of the current point: the only place
 // the step is written. T is double or a vector of doubles; each operation is one IEEE
@@ -34,33 +32,6 @@ template <class T>
     x = sx - sy + C;
 }
 
-// The escape test of one step for a vector of lanes: a lane runs while every test so far found
-// r < 4 (`vivo`, all ones or all zeros per lane); a running lane counts one step more. Returns
-// the bits of the lanes still running.
-template <class Vd>
-[[gnu::always_inline]] inline int Testar(const Vd& r, Vd& vivo, Vd& n, const Vd& quatro,
-                                         const Vd& um)
-{
-    using Vl = decltype(Vd{} < Vd{});
-    const Vl m = reinterpret_cast<Vl>(vivo) & (r < quatro);
-    vivo = reinterpret_cast<Vd>(m);
-    n += reinterpret_cast<Vd>(m & reinterpret_cast<Vl>(um));
-    int bits = 0;
-    for (unsigned e = 0; e < sizeof(Vd) / sizeof(double); ++e)
-        bits |= int(m[e] & 1) << e;
-    return bits;
-}
-
-#ifdef LUMERINA_X86
-// Two lanes spelt with SSE2 intrinsics: without SSE4.1, GCC lowers two-lane masks badly.
-[[gnu::always_inline]] inline int Testar(const V2d& r, V2d& vivo, V2d& n, const V2d& quatro,
-                                         const V2d& um)
-{
-    vivo = _mm_and_pd(vivo, _mm_cmplt_pd(r, quatro));
-    n = _mm_add_pd(n, _mm_and_pd(vivo, um));
-    return _mm_movemask_pd(vivo);
-}
-#endif
 
 // Counts of up to G·E points of one column, one per lane, started together. At step t every
 // running lane has n = t, so "n < N" bounds the loop; a lane whose test failed stays stopped

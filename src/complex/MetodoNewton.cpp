@@ -1,11 +1,8 @@
 #include "complex/MetodoNewton.h"
+#include "complex/Vectores.h"
 
 #include <cmath>
 
-#if defined(__x86_64__) || defined(__i386__)
-#include <immintrin.h>
-#define LUMERINA_X86 1
-#endif
 
 namespace lumerina {
 
@@ -93,8 +90,8 @@ GrelhaNewton CriarGrelhaNewton(float xmin, float xmax, float ymin, float ymax, d
 
 namespace {
 
-typedef double V2d __attribute__((vector_size(16)));
-typedef double V4d __attribute__((vector_size(32)));
+using vectores::V2d;
+using vectores::V4d;
 typedef long long V2l __attribute__((vector_size(16)));
 typedef long long V4l __attribute__((vector_size(32)));
 
