@@ -41,6 +41,7 @@ td, th { padding-left: 7px; padding-right: 7px; }
 .conj { text-decoration: overline; }
 .programa { color: #0f5a63; }
 .nivel { color: #8a5a00; font-style: italic; margin-top: 0px; }
+.exercicio { margin-top: 8px; background-color: #efe8d4; }
 )";
 
 }  // namespace
