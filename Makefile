@@ -52,11 +52,12 @@ fuzz: deps
 	mkdir -p build/fuzz/corpus
 	./build/fuzz/fuzz_interpretador -max_total_time=$(FUZZ_SECONDS) -max_len=64 build/fuzz/corpus
 
-# Pictures of the main and Mandelbrot pages for docs/, and of every information page.
+# Pictures of the pages for docs/, of every information page and of every IFS system.
 capturas: deps build/release/CMakeCache.txt
 	cmake --build build/release --target lumerina_capturas -j $(JOBS)
 	./build/release/lumerina_capturas docs docs
 	./build/release/lumerina_capturas paginas build/paginas
+	./build/release/lumerina_capturas ifs build/ifs
 
 clean:
 	rm -rf build

@@ -1,14 +1,16 @@
 // Pictures of the program made by the program itself, on the offscreen platform:
 //   lumerina_capturas docs            the main page, the Mandelbrot page after a drawing,
-//                                     a comments page, the save dialog and the L-systems
-//                                     page after a Koch island
+//                                     a comments page, the save dialog, the IFS page after
+//                                     the fern and the L-systems page after a Koch island
 //   lumerina_capturas paginas PASTA   every information page, one PNG each
 //   lumerina_capturas lsistemas PASTA the L-systems page after each of its sixteen examples
+//   lumerina_capturas ifs PASTA       every system of the IFS page, one picture each
 // `make capturas` runs both.
 
 #include "app/Aplicacao.h"
 #include "app/PaginaInformacao.h"
 #include "app/Paginas.h"
+#include "frame/ControloImagem.h"
 #include "frame/Plataforma.h"
 #include "geometric/PaginaLSistemas.h"
 
@@ -16,6 +18,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QGroupBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -54,6 +57,10 @@ int Documentacao(const QString& pasta)
     dialogo->resize(640, 400);
     dialogo->show();
     ok = Guardar(dialogo.get(), pasta + "/dialogo-guardar.png") && ok;
+    QWidget* ifs = lumerina::Pagina(lumerina::Form::IFS);
+    ifs->show();
+    ifs->findChild<QPushButton*>("FetoBarnsley")->click();
+    ok = Guardar(ifs, pasta + "/pagina-ifs.png") && ok;
     // The quadratic Koch island, example "12".
     QWidget* lsistemas = lumerina::Pagina(lumerina::Form::LSistemas);
     lsistemas->show();
@@ -104,6 +111,34 @@ int Paginas(const QString& pasta)
     return ok ? 0 : 1;
 }
 
+// Each example button of the IFS page on a cleared picture, 300 000 steps, in the order of
+// the buttons: NN-Nome.png.
+int SistemasIFS(const QString& pasta)
+{
+    QDir().mkpath(pasta);
+    AbrirLumerina();
+    QWidget* pagina = lumerina::Pagina(lumerina::Form::IFS);
+    pagina->show();
+    pagina->findChild<QLineEdit*>("NumIteraçõesIFS")->setText("300000");
+    auto* apagar = pagina->findChild<QPushButton*>("ApagarGráfico");
+    auto* imagem = pagina->findChild<lumerina::ControloImagem*>("Picture1");
+    bool ok = true;
+    int n = 0;
+    for (const char* quadro : {"Frame1", "Frame3"}) {
+        for (QPushButton* b : pagina->findChild<QGroupBox*>(quadro)->findChildren<QPushButton*>()) {
+            if (b->objectName() == "Command1" || b->objectName() == "Command7")
+                continue;
+            apagar->click();
+            b->click();
+            const QString nome =
+                QStringLiteral("%1/%2-%3.png").arg(pasta).arg(++n, 2, 10, QLatin1Char('0')).arg(b->objectName());
+            ok = imagem->Imagem().save(nome) && ok;
+        }
+    }
+    std::printf("%d sistemas %s\n", n, ok ? "escritos" : "FALHOU");
+    return ok ? 0 : 1;
+}
+
 }  // namespace
 
 int main(int argc, char* argv[])
@@ -119,8 +154,10 @@ int main(int argc, char* argv[])
         codigo = Paginas(args[2]);
     else if (args.size() >= 3 && args[1] == "lsistemas")
         codigo = ExemplosLSistemas(args[2]);
+    else if (args.size() >= 3 && args[1] == "ifs")
+        codigo = SistemasIFS(args[2]);
     else
-        std::fprintf(stderr, "uso: lumerina_capturas docs PASTA | paginas PASTA | lsistemas PASTA\n");
+        std::fprintf(stderr, "uso: lumerina_capturas docs PASTA | paginas PASTA | lsistemas PASTA | ifs PASTA\n");
     lumerina::FecharLumerina();
     return codigo;
 }

@@ -5,6 +5,7 @@
 #include "app/PaginaInformacao.h"
 #include "app/PaginaInicial.h"
 #include "complex/PaginaMandelbrot.h"
+#include "geometric/PaginaIFS.h"
 #include "geometric/PaginaLSistemas.h"
 
 #include <QPointer>
@@ -45,6 +46,8 @@ QWidget* Criar(int numero)
     switch (numero) {
     case Form::Mandelbrot:
         return new PaginaMandelbrot(Descricao(numero));
+    case Form::IFS:
+        return new PaginaIFS(Descricao(numero));
     case Form::LSistemas:
         return new PaginaLSistemas(Descricao(numero));
     case Form::Inicial:
