@@ -82,6 +82,21 @@ QStringList Faltas(const QString& html)
                                    .simplified());
         }
     }
+    // A value typed in a field ("2.666") and the same value in prose (2,666) never share a sentence.
+    static const QRegularExpression valor(QStringLiteral("<code>-?(\\d+)\\.(\\d+)</code>"));
+    static const QRegularExpression fimDeFrase(QStringLiteral("[.!?]\\s|</?(p|td|li)>"));
+    for (auto valores = valor.globalMatch(html); valores.hasNext();) {
+        const auto v = valores.next();
+        const qsizetype inicio = html.lastIndexOf(fimDeFrase, v.capturedStart());
+        const auto fim = fimDeFrase.match(html, v.capturedEnd());
+        const QString frase = Prosa(html.mid(std::max<qsizetype>(inicio, 0),
+                                             (fim.hasMatch() ? fim.capturedStart() : html.size()) -
+                                                 std::max<qsizetype>(inicio, 0)));
+        const QRegularExpression virgula(
+            QStringLiteral("(?<![\\d,])%1,%2(?!\\d)").arg(v.captured(1), v.captured(2)));
+        if (virgula.match(frase).hasMatch())
+            faltas << QStringLiteral("%1 e %2,%3 na mesma frase").arg(v.captured(0), v.captured(1), v.captured(2));
+    }
     // The page's drawing pads the cells of a bare <table> only.
     if (html.contains(QStringLiteral("<table ")))
         faltas << QStringLiteral("<table> sem atributos");
@@ -142,6 +157,9 @@ TEST(EstiloDasPaginas, AsRegrasDistinguemProsaDeCitacao)
         {"<table border=\"1\"><tr><td>1</td></tr></table>", true},
         {"<table><tr><th></th><th>a</th></tr></table>", true},
         {"<pre>Axioma: F++F++F\nÂngulos: 60 e -60</pre>", false},
+        {"<p>A&nbsp;=&nbsp;1,4: escreva <code>1.4</code> no campo.</p>", true},
+        {"<p>A&nbsp;=&nbsp;1,4. Escreva <code>1.4</code> no campo.</p>", false},
+        {"<p>Escreva <code>0.25</code>; com 0,255 é outro caso.</p>", false},
     };
     for (const Caso& c : casos)
         EXPECT_EQ(!Faltas(QString::fromUtf8(c.html)).isEmpty(), c.falta) << c.html;
