@@ -1,11 +1,12 @@
 // Pictures of the program made by the program itself, on the offscreen platform:
 //   lumerina_capturas docs            the main page, the Mandelbrot page after a drawing,
 //                                     a comments page, the save dialog, the IFS page after
-//                                     the fern and the L-systems page after a Koch island
+//                                     the fern, the L-systems page after a Koch island and
+//                                     the attractors page after a Lorenz drawing
 //   lumerina_capturas paginas PASTA   every information page, one PNG each
 //   lumerina_capturas lsistemas PASTA the L-systems page after each of its sixteen examples
 //   lumerina_capturas ifs PASTA       every system of the IFS page, one picture each
-// `make capturas` runs both.
+// `make capturas` runs them all.
 
 #include "app/Aplicacao.h"
 #include "app/PaginaInformacao.h"
@@ -22,6 +23,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSpinBox>
 #include <QWidget>
 
 #include <cstdio>
@@ -46,6 +48,15 @@ int Documentacao(const QString& pasta)
     mandel->findChild<QLineEdit*>("MaxIterações")->setText("256");
     mandel->findChild<QPushButton*>("DesenharMandelbrot")->click();
     ok = Guardar(mandel, pasta + "/pagina-mandelbrot.png") && ok;
+    // The attractors page after a Lorenz drawing (its sixth set, B = 28), kept for copying.
+    QWidget* atractores = lumerina::Pagina(lumerina::Form::Atractores);
+    atractores->show();
+    atractores->findChild<QAbstractButton*>("Lorenz")->click();
+    atractores->findChild<QAbstractButton*>("CopiarLorenz")->click();
+    atractores->findChild<QSpinBox*>("UpDown1")->setValue(6);
+    atractores->findChild<QPushButton*>("Desenhar")->click();
+    ok = Guardar(atractores, pasta + "/pagina-atractores.png") && ok;
+    atractores->hide();
     // "Comentários" from the Mandelbrot page opens at its first page on the set.
     mandel->findChild<QAction*>("Comentários")->trigger();
     ok = Guardar(lumerina::Pagina(lumerina::Form::Comentarios), pasta + "/pagina-comentarios.png") && ok;

@@ -6,6 +6,7 @@
 #include "app/PaginaInicial.h"
 #include "complex/PaginaMandelbrot.h"
 #include "geometric/PaginaIFS.h"
+#include "dynamics/PaginaAtractores.h"
 #include "geometric/PaginaLSistemas.h"
 
 #include <QPointer>
@@ -50,6 +51,8 @@ QWidget* Criar(int numero)
         return new PaginaIFS(Descricao(numero));
     case Form::LSistemas:
         return new PaginaLSistemas(Descricao(numero));
+    case Form::Atractores:
+        return new PaginaAtractores(Descricao(numero));
     case Form::Inicial:
         return new PaginaInicial(Descricao(numero));
     case Form::Instrucoes:

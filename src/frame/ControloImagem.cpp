@@ -297,6 +297,12 @@ void ControloImagem::Sujar(const QRect& rect, bool agora)
     Agendar(util, agora);
 }
 
+QRgb* ControloImagem::LinhaEcra(int y)
+{
+    SepararEcra();
+    return reinterpret_cast<QRgb*>(ecra_.scanLine(y));
+}
+
 void ControloImagem::Agendar(const QRect& rect, bool agora)
 {
     const QRect util = rect.intersected(persistente_.rect());

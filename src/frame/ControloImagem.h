@@ -72,6 +72,10 @@ public:
     // screen takes it too. With `agora` the screen is repainted synchronously (for drawings
     // that never yield), still at most ~60 times a second.
     void Sujar(const QRect& rect, bool agora = false);
+    // The same for the screen layer alone, for points that must not reach the persistent
+    // image (drawn "straight to the screen"): LinhaEcra detaches the screen layer first.
+    QRgb* LinhaEcra(int y);
+    void SujarEcra(const QRect& rect) { Agendar(rect); }
     // Shows whatever is still pending.
     void MostrarPendente();
 

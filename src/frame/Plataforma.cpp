@@ -9,7 +9,8 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QMessageBox>
-#include <QThread>
+#include <QEventLoop>
+#include <QTimer>
 #include <QWidget>
 
 namespace lumerina {
@@ -113,8 +114,14 @@ bool PlataformaQt::Ceder()
 
 void PlataformaQt::Dormir(int milissegundos)
 {
-    if (milissegundos > 0)
-        QThread::msleep(static_cast<unsigned long>(milissegundos));
+    if (milissegundos <= 0 || ATerminar())
+        return;
+    // An event loop that a timer ends: the page repaints and "Abandonar" is handled during
+    // the wait (ending the program quits every running event loop, this one too).
+    QEventLoop espera;
+    QTimer::singleShot(milissegundos, &espera, &QEventLoop::quit);
+    espera.exec();
+    desdeCedencia_.start();
 }
 
 std::uint32_t PlataformaQt::SementeRelogio()

@@ -46,6 +46,8 @@ public:
     // Lets the event loop run. Returns false once the program is ending: the caller must
     // abandon its drawing at once.
     virtual bool Ceder() = 0;
+    // Waits, handling events meanwhile, so that the program stays responsive; returns early
+    // once the program is ending.
     virtual void Dormir(int milissegundos) = 0;
     virtual std::uint32_t SementeRelogio() = 0;
 

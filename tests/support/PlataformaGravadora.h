@@ -34,6 +34,8 @@ public:
     bool cursorEspera = false;
     int cedencias = 0;
     std::function<void(int)> aoCeder;     // runs inside every yield, with its count
+    std::vector<int> sonos;               // every sleep asked for, in milliseconds
+    std::function<void(int)> aoDormir;    // runs inside every sleep, with its count
     std::uint32_t semente = 20261123;
 
     void Mensagem(QWidget*, const QString& titulo, const QString& texto,
@@ -72,7 +74,12 @@ public:
             QCoreApplication::processEvents();
         return !ATerminar();
     }
-    void Dormir(int) override {}
+    void Dormir(int milissegundos) override
+    {
+        sonos.push_back(milissegundos);
+        if (aoDormir)
+            aoDormir(static_cast<int>(sonos.size()));
+    }
     std::uint32_t SementeRelogio() override { return semente; }
 
     QString UltimoTexto() const { return mensagens.empty() ? QString() : mensagens.back().texto; }
