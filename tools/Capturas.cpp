@@ -1,26 +1,33 @@
 // Pictures of the program made by the program itself, on the offscreen platform:
 //   lumerina_capturas docs            the main page, the Mandelbrot page after a drawing,
 //                                     a comments page, the save dialog, the IFS page after
-//                                     the fern, the L-systems page after a Koch island and
-//                                     the attractors page after a Lorenz drawing
+//                                     the fern, the L-systems page after a Koch island,
+//                                     the attractors page after a Lorenz drawing, and the
+//                                     Julia, relation and Newton pages
 //   lumerina_capturas paginas PASTA   every information page, one PNG each
 //   lumerina_capturas lsistemas PASTA the L-systems page after each of its sixteen examples
 //   lumerina_capturas ifs PASTA       every system of the IFS page, one picture each
+//   lumerina_capturas julia PASTA     every named value of k of the Julia page, drawn, one
+//                                     contact sheet per family
 // `make capturas` runs them all.
 
 #include "app/Aplicacao.h"
 #include "app/PaginaInformacao.h"
 #include "app/Paginas.h"
+#include "complex/PaginaRelacao.h"
 #include "frame/ControloImagem.h"
+#include "frame/Controlos.h"
 #include "frame/Plataforma.h"
 #include "geometric/PaginaLSistemas.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QGroupBox>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
@@ -57,6 +64,29 @@ int Documentacao(const QString& pasta)
     atractores->findChild<QPushButton*>("Desenhar")->click();
     ok = Guardar(atractores, pasta + "/pagina-atractores.png") && ok;
     atractores->hide();
+    QWidget* julia = lumerina::Pagina(lumerina::Form::Julia);
+    julia->show();
+    julia->findChild<QPushButton*>("Desenhar")->click();
+    ok = Guardar(julia, pasta + "/pagina-julia.png") && ok;
+    // The relation page after a click on the Douady rabbit's c, both Julia sets drawn. Its
+    // colours are black until chosen: these stand for a teacher's choice.
+    auto* relacao = static_cast<lumerina::PaginaRelacao*>(lumerina::Pagina(lumerina::Form::Relacao));
+    relacao->show();
+    for (lumerina::SeletorCor* cor : relacao->findChildren<lumerina::SeletorCor*>()) {
+        const QString botao = cor->BotaoEscolher()->objectName();
+        cor->DefinirCor(botao == "Command8" || botao == "Command1" ? QColor(0, 0, 128)
+                                                                   : QColor(255, 244, 200));
+    }
+    relacao->findChild<QPushButton*>("DesenharMandelbrot")->click();
+    relacao->MarcarPonto(-0.123, 0.745);
+    relacao->findChild<QPushButton*>("DesenharJuliaIteraçãoNormal")->click();
+    relacao->findChild<QPushButton*>("DesenharJuliaIteraçãoInversa")->click();
+    ok = Guardar(relacao, pasta + "/pagina-relacao.png") && ok;
+    QWidget* newton = lumerina::Pagina(lumerina::Form::Newton);
+    newton->show();
+    newton->findChild<QPushButton*>("Newton")->click();
+    ok = Guardar(newton, pasta + "/pagina-newton.png") && ok;
+    newton->hide();
     // "Comentários" from the Mandelbrot page opens at its first page on the set.
     mandel->findChild<QAction*>("Comentários")->trigger();
     ok = Guardar(lumerina::Pagina(lumerina::Form::Comentarios), pasta + "/pagina-comentarios.png") && ok;
@@ -91,6 +121,46 @@ int ExemplosLSistemas(const QString& pasta)
         pagina->findChild<QRadioButton*>(e.botao)->click();
         pagina->findChild<QPushButton*>("Desenhar")->click();
         ok = Guardar(pagina, QStringLiteral("%1/exemplo-%2.png").arg(pasta, e.legenda)) && ok;
+    }
+    return ok ? 0 : 1;
+}
+
+// The Julia page's named values, each drawn in its family, at a quarter of their size on one
+// sheet per list (the inverse iteration shares the first list with the normal one).
+int ExemplosJulia(const QString& pasta)
+{
+    QDir().mkpath(pasta);
+    QWidget* julia = lumerina::Pagina(lumerina::Form::Julia);
+    julia->show();
+    const struct { const char* opcao; const char* lista; } familias[] = {
+        {"IteraçãoNormal", "Combo1"}, {"IteraçãoInversa", "Combo1"}, {"KapaSenoZ", "Combo2"},
+        {"KapaCosenoZ", "Combo3"},    {"KapaExpZ", "Combo4"},
+    };
+    bool ok = true;
+    for (const auto& f : familias) {
+        for (const char* coloracao : {"LinhasTipo2", "SemLinhas"}) {
+            julia->findChild<QRadioButton*>(QString::fromUtf8(f.opcao))->click();
+            julia->findChild<QRadioButton*>(coloracao)->click();
+            auto* lista = julia->findChild<QComboBox*>(f.lista);
+            const int lado = 157, porLinha = 6;
+            QImage folha(porLinha * lado, ((lista->count() + porLinha - 1) / porLinha) * (lado + 14),
+                         QImage::Format_RGB32);
+            folha.fill(Qt::white);
+            QPainter pintor(&folha);
+            for (int k = 0; k < lista->count(); ++k) {
+                emit lista->activated(k);
+                julia->findChild<QPushButton*>("Desenhar")->click();
+                const QImage imagem = julia->findChild<QWidget*>("Picture1")->grab().toImage();
+                const QPoint canto((k % porLinha) * lado, (k / porLinha) * (lado + 14));
+                pintor.drawImage(QRect(canto + QPoint(0, 14), QSize(lado - 2, lado - 2)), imagem);
+                pintor.drawText(canto + QPoint(2, 11), lista->itemText(k));
+            }
+            pintor.end();
+            const QString nome =
+                QStringLiteral("%1/julia-%2-%3.png").arg(pasta, QString::fromUtf8(f.opcao), coloracao);
+            ok = folha.save(nome) && ok;
+            std::printf("escrito %s\n", qPrintable(nome));
+        }
     }
     return ok ? 0 : 1;
 }
@@ -167,8 +237,10 @@ int main(int argc, char* argv[])
         codigo = ExemplosLSistemas(args[2]);
     else if (args.size() >= 3 && args[1] == "ifs")
         codigo = SistemasIFS(args[2]);
+    else if (args.size() >= 3 && args[1] == "julia")
+        codigo = ExemplosJulia(args[2]);
     else
-        std::fprintf(stderr, "uso: lumerina_capturas docs PASTA | paginas PASTA | lsistemas PASTA | ifs PASTA\n");
+        std::fprintf(stderr, "uso: lumerina_capturas docs PASTA | paginas PASTA | lsistemas PASTA | ifs PASTA | julia PASTA\n");
     lumerina::FecharLumerina();
     return codigo;
 }

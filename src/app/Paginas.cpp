@@ -4,7 +4,10 @@
 #include "app/Aplicacao.h"
 #include "app/PaginaInformacao.h"
 #include "app/PaginaInicial.h"
+#include "complex/PaginaJulia.h"
 #include "complex/PaginaMandelbrot.h"
+#include "complex/PaginaRelacao.h"
+#include "complex/PaginaNewton.h"
 #include "geometric/PaginaIFS.h"
 #include "dynamics/PaginaAtractores.h"
 #include "geometric/PaginaLSistemas.h"
@@ -45,8 +48,12 @@ std::array<QPointer<QWidget>, kNumeroPaginas + 1>& Instancias()
 QWidget* Criar(int numero)
 {
     switch (numero) {
+    case Form::Julia:
+        return new PaginaJulia(Descricao(numero));
     case Form::Mandelbrot:
         return new PaginaMandelbrot(Descricao(numero));
+    case Form::Relacao:
+        return new PaginaRelacao(Descricao(numero));
     case Form::IFS:
         return new PaginaIFS(Descricao(numero));
     case Form::LSistemas:
@@ -55,6 +62,8 @@ QWidget* Criar(int numero)
         return new PaginaAtractores(Descricao(numero));
     case Form::Inicial:
         return new PaginaInicial(Descricao(numero));
+    case Form::Newton:
+        return new PaginaNewton(Descricao(numero));
     case Form::Instrucoes:
         return new PaginaInformacao(LivroInstrucoes(), PaginaInstrucoes);
     case Form::Comentarios:

@@ -218,8 +218,15 @@ void ControloImagem::CanetaLarga(QImage& img, const QRect* caixa, QLineF linha, 
 void ControloImagem::Pixel(double x, double y, QRgb cor)
 {
     const int px = Arredondar(PixelX(x)), py = Arredondar(PixelY(y));
-    NasCamadas([&](QImage& img) { PontoNaImagem(img, px, py, cor); });
-    Agendar(QRect(px, py, 1, 1));
+    // A wide pen sets a square dot of its width centred on the point.
+    const int r = (espessura_ - 1) / 2;
+    const QRect ponto(px - r, py - r, espessura_, espessura_);
+    NasCamadas([&](QImage& img) {
+        for (int v = ponto.top(); v <= ponto.bottom(); ++v)
+            for (int u = ponto.left(); u <= ponto.right(); ++u)
+                PontoNaImagem(img, u, v, cor);
+    });
+    Agendar(ponto);
 }
 
 void ControloImagem::Linha(double x1, double y1, double x2, double y2, QRgb cor)

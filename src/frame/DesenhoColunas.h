@@ -24,8 +24,16 @@ using ColunaCores = std::function<void(int i, Cor* cores)>;
 // per row, a block fills them. The screen repaints about 60 times a second, so nobody sees
 // the blocks.
 //
+// How the columns are written. `subir` raises every row: row counter j is drawn at picture
+// row H − subir − j. With `manterFundo`, a colour kSemCor leaves the picture's pixel as it
+// is (a point that is not drawn keeps the background).
+struct EscritaColunas {
+    int subir = 0;
+    bool manterFundo = false;
+};
+
 // False when the program is ending: the caller abandons its drawing at once.
 bool DesenharColunas(ControloImagem& imagem, double W, int H, const ColunaCores& colorir,
-                     const std::function<void()>& aposCeder = {});
+                     const std::function<void()>& aposCeder = {}, EscritaColunas escrita = {});
 
 }  // namespace lumerina

@@ -24,6 +24,8 @@ void PreencherMulticor(EsquemaCores& esquema);  // green interior, bands of stro
 void PreencherRoxo(EsquemaCores& esquema);      // purple interior, violet to dark red
 
 using Cor = std::uint32_t;  // 0xFFRRGGBB
+// Not a colour (its alpha is 0): a pixel that is not drawn.
+constexpr Cor kSemCor = 0;
 
 // Channels outside 0..255 are clamped.
 Cor CorRGB(int r, int g, int b);

@@ -16,6 +16,7 @@
 #include <QSaveFile>
 #include <QScrollBar>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -127,13 +128,17 @@ JanelaDesenho::JanelaDesenho(QWidget* pagina, QWidget* area, QPoint origem, Opco
     if (opcoes.limites) {
         quadroArea_ = Quadro(area, "Área de desenho", {0, 0, 300, 80});
         struct CampoLimite { QLineEdit** campo; const char* nome; const char* rotulo; int x, y; };
+        const char* const* r = opcoes.rotulosLimites;
         const CampoLimite campos[] = {
-            {&xmin_, "Xmínimo", "Xmín", 10, 20}, {&xmax_, "Xmáximo", "Xmáx", 155, 20},
-            {&ymin_, "Ymínimo", "Ymín", 10, 48}, {&ymax_, "Ymáximo", "Ymáx", 155, 48},
+            {&xmin_, "Xmínimo", r[0], 10, 20}, {&xmax_, "Xmáximo", r[1], 155, 20},
+            {&ymin_, "Ymínimo", r[2], 10, 48}, {&ymax_, "Ymáximo", r[3], 155, 48},
         };
         for (const CampoLimite& c : campos) {
-            Rotulo(quadroArea_, c.rotulo, {c.x, c.y + 2, 36, 20});
-            *c.campo = Campo(quadroArea_, c.nome, "", {c.x + 38, c.y, 95, 24});
+            QLabel* rotulo = Rotulo(quadroArea_, c.rotulo, {c.x, c.y + 2, 36, 20});
+            const int largura =
+                std::max(36, rotulo->fontMetrics().horizontalAdvance(rotulo->text()) + 2);
+            rotulo->resize(largura, 20);
+            *c.campo = Campo(quadroArea_, c.nome, "", {c.x + largura + 2, c.y, 131 - largura, 24});
         }
     }
 
@@ -225,10 +230,11 @@ void JanelaDesenho::PrepararDesenho()
 }
 
 bool JanelaDesenho::DesenharPorColunas(const ColunaCores& colorir,
-                                       const std::function<void()>& aposCeder)
+                                       const std::function<void()>& aposCeder,
+                                       EscritaColunas escrita)
 {
     SessaoDesenho sessao(*this);
-    if (!DesenharColunas(*imagem_, W_, H_, colorir, aposCeder))
+    if (!DesenharColunas(*imagem_, W_, H_, colorir, aposCeder, escrita))
         return false;
     sessao.Concluir();
     return true;

@@ -46,6 +46,8 @@ public:
         int altura = 628;
         bool limites = true;      // the frame "Área de desenho"
         bool barras = true;       // HScroll1 / VScroll1 and "Dimensão da janela"
+        // Captions of Xmínimo, Xmáximo, Ymínimo, Ymáximo; a longer one narrows its field.
+        const char* rotulosLimites[4] = {"Xmín", "Xmáx", "Ymín", "Ymáx"};
     };
 
     // `pagina` is the top-level page (dialog owner, hourglass); the controls are created as
@@ -99,7 +101,8 @@ public:
     // A whole escape-time drawing over W and H: the drawing session, the column loop
     // (DesenharColunas) and, when it completes, the world scale and the drawn flag. False
     // when the program ended during it.
-    bool DesenharPorColunas(const ColunaCores& colorir, const std::function<void()>& aposCeder = {});
+    bool DesenharPorColunas(const ColunaCores& colorir, const std::function<void()>& aposCeder = {},
+                            EscritaColunas escrita = {});
     // Upper-left (Xmin, Ymax), lower-right (Xmax, Ymin): mouse positions become world points.
     void DefinirEscalaMundo();
 

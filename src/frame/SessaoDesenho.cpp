@@ -12,10 +12,12 @@ namespace {
 int sessoesAbertas = 0;
 }  // namespace
 
-SessaoDesenho::SessaoDesenho(JanelaDesenho& janela) : janela_(&janela), pagina_(janela.Pagina())
+SessaoDesenho::SessaoDesenho(JanelaDesenho& janela, Botoes botoes)
+    : janela_(&janela), pagina_(janela.Pagina())
 {
-    for (QPushButton* b : janela.BotoesDesactivados())
-        botoes_.emplace_back(b);
+    if (botoes == Botoes::Desactivados)
+        for (QPushButton* b : janela.BotoesDesactivados())
+            botoes_.emplace_back(b);
     Iniciar(janela.Imagem());
 }
 

@@ -25,8 +25,9 @@ class JanelaDesenho;
 class SessaoDesenho {
 public:
     // A drawing in a page's drawing window: its picture, its registered draw buttons and
-    // Apagar/Copiar/Guardar.
-    explicit SessaoDesenho(JanelaDesenho& janela);
+    // Apagar/Copiar/Guardar; or, on a page whose buttons stay live while it draws, none.
+    enum class Botoes { Desactivados, Activos };
+    explicit SessaoDesenho(JanelaDesenho& janela, Botoes botoes = Botoes::Desactivados);
     // A drawing in a bare picture (a page without a drawing window): the buttons given.
     SessaoDesenho(QWidget* pagina, ControloImagem* imagem, std::initializer_list<QPushButton*> botoes);
     ~SessaoDesenho();

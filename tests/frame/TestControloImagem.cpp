@@ -109,5 +109,25 @@ TEST(ControloImagem, RedimensionarGuardaODesenho)
     EXPECT_EQ(imagem.Imagem().pixel(30, 5), qRgb(4, 4, 4));
 }
 
+// A point set with a wide pen is a square of the pen's width around it, cut by the edges.
+TEST(ControloImagem, PontoComCanetaLarga)
+{
+    struct Caso { int espessura, x, y, acesos; };
+    const Caso casos[] = {
+        {1, 5, 5, 1}, {3, 5, 5, 9}, {3, 0, 0, 4}, {3, 9, 9, 4}, {2, 5, 5, 4}, {5, 5, 5, 25},
+    };
+    for (const Caso& c : casos) {
+        ControloImagem imagem(nullptr, 10, 10);
+        imagem.DefinirEspessura(c.espessura);
+        imagem.Pixel(c.x, c.y, qRgb(255, 0, 0));
+        int acesos = 0;
+        for (int y = 0; y < 10; ++y)
+            for (int x = 0; x < 10; ++x)
+                acesos += imagem.Imagem().pixel(x, y) == qRgb(255, 0, 0);
+        EXPECT_EQ(acesos, c.acesos) << "width " << c.espessura << " at " << c.x << "," << c.y;
+        EXPECT_EQ(imagem.Imagem().pixel(c.x, c.y), qRgb(255, 0, 0));
+    }
+}
+
 }  // namespace
 }  // namespace lumerina

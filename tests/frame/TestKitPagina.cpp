@@ -5,6 +5,7 @@
 #include "app/Paginas.h"
 #include "frame/Controlos.h"
 #include "frame/ControloImagem.h"
+#include "frame/DesenhoColunas.h"
 #include "frame/JanelaDesenho.h"
 #include "frame/SessaoDesenho.h"
 #include "support/PlataformaGravadora.h"
@@ -113,6 +114,23 @@ TEST_F(Kit, SessaoSemConclusaoDevolveTudoESemMundo)
     EXPECT_TRUE(imagem->EmPixeis());
 }
 
+// A page whose buttons stay live while it draws: the hourglass and the one-drawing rule
+// still hold, and a completed drawing still gives the picture its world.
+TEST_F(Kit, SessaoComBotoesActivos)
+{
+    {
+        SessaoDesenho sessao(*janela, SessaoDesenho::Botoes::Activos);
+        EXPECT_TRUE(SessaoDesenho::EmCurso());
+        EXPECT_TRUE(sistema->cursorEspera);
+        for (QPushButton* b : janela->BotoesDesactivados())
+            EXPECT_TRUE(b->isEnabled()) << b->objectName().toStdString();
+        sessao.Concluir();
+    }
+    EXPECT_FALSE(sistema->cursorEspera);
+    EXPECT_TRUE(janela->desenhado);
+    EXPECT_FALSE(imagem->EmPixeis());
+}
+
 // Drawings yield to the event loop. A draw button of another page pressed in that yield
 // (by click or by Enter) must not run a second drawing inside the first.
 TEST_F(Kit, UmSoDesenhoDeCadaVezNoPrograma)
@@ -157,6 +175,34 @@ TEST_F(Kit, EnterNumCampoCarregaNoBotaoDeDesenhoMaisProximo)
     QTest::keyClick(campoProprio, Qt::Key_Return);
     EXPECT_EQ(proprios, 1);
     EXPECT_EQ(desenhos, 2);   // a disabled button is passed over
+}
+
+// A picture 3 pixels high, H = 3: row counter j is drawn at row H − subir − j; with
+// manterFundo a kSemCor leaves the background.
+TEST_F(Kit, ColunasSubidasEFundoMantido)
+{
+    constexpr QRgb F = 0xFF808080, A = 0xFF0000FF, B = 0xFF00FF00;
+    constexpr QRgb K = 0xFF000000;  // kSemCor written as it is: black
+    const Cor coluna[4] = {A, kSemCor, B, A};  // j = 0..3
+    const struct { EscritaColunas escrita; QRgb linhas[3]; } casos[] = {
+        {{0, false}, {A, B, K}},  // rows 0, 1, 2 show j = 3, 2, 1
+        {{0, true}, {A, B, F}},
+        {{1, false}, {B, K, A}},  // j = 2, 1, 0
+        {{1, true}, {B, F, A}},
+        {{2, true}, {F, A, F}},   // j = 1, 0, and nothing below j = 0
+    };
+    for (const auto& c : casos) {
+        imagem->Redimensionar(2, 3);
+        imagem->DefinirCorFundo(F);
+        imagem->Limpar();
+        DesenharColunas(*imagem, 1, 3, [&](int, Cor* cores) { std::copy(coluna, coluna + 4, cores); },
+                        {}, c.escrita);
+        for (int y = 0; y < 3; ++y)
+            for (int x = 0; x < 2; ++x)
+                EXPECT_EQ(imagem->Imagem().pixel(x, y), c.linhas[y])
+                    << "subir " << c.escrita.subir << ", manterFundo " << c.escrita.manterFundo
+                    << ", row " << y << ", column " << x;
+    }
 }
 
 }  // namespace
