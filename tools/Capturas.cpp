@@ -2,13 +2,17 @@
 //   lumerina_capturas docs            the main page, the Mandelbrot page after a drawing,
 //                                     a comments page, the save dialog, the IFS page after
 //                                     the fern, the L-systems page after a Koch island,
-//                                     the attractors page after a Lorenz drawing, and the
-//                                     Julia, relation and Newton pages
+//                                     the attractors page after a Lorenz drawing, the Julia,
+//                                     relation and Newton pages, the chaos game and the
+//                                     transformations page
 //   lumerina_capturas paginas PASTA   every information page, one PNG each
 //   lumerina_capturas lsistemas PASTA the L-systems page after each of its sixteen examples
 //   lumerina_capturas ifs PASTA       every system of the IFS page, one picture each
 //   lumerina_capturas julia PASTA     every named value of k of the Julia page, drawn, one
 //                                     contact sheet per family
+//   lumerina_capturas caos PASTA      the chaos game after Auto, every figure of the copy
+//                                     machine at levels 1 to 6, the transformations page
+//                                     with each example and each figure at levels 1 to 8
 // `make capturas` runs them all.
 
 #include "app/Aplicacao.h"
@@ -21,9 +25,12 @@
 #include "geometric/PaginaLSistemas.h"
 
 #include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QGroupBox>
 #include <QFileDialog>
 #include <QGroupBox>
 #include <QLineEdit>
@@ -33,6 +40,7 @@
 #include <QSpinBox>
 #include <QWidget>
 
+#include <cmath>
 #include <cstdio>
 
 namespace {
@@ -108,6 +116,16 @@ int Documentacao(const QString& pasta)
     lsistemas->findChild<QRadioButton*>("Option12")->click();
     lsistemas->findChild<QPushButton*>("Desenhar")->click();
     ok = Guardar(lsistemas, pasta + "/pagina-lsistemas.png") && ok;
+    QWidget* caos = lumerina::Pagina(lumerina::Form::JogoCaos);
+    caos->show();
+    caos->findChild<QPushButton*>("Automático")->click();
+    ok = Guardar(caos, pasta + "/pagina-jogo-caos.png") && ok;
+    QWidget* transformacoes = lumerina::Pagina(lumerina::Form::Transformacoes);
+    transformacoes->show();
+    transformacoes->findChild<QPushButton*>("ExemploSierpinski")->click();
+    for (int k = 0; k < 4; ++k)
+        transformacoes->findChild<QPushButton*>("AplicarNovamente")->click();
+    ok = Guardar(transformacoes, pasta + "/pagina-transformacoes.png") && ok;
     return ok ? 0 : 1;
 }
 
@@ -220,6 +238,80 @@ int SistemasIFS(const QString& pasta)
     return ok ? 0 : 1;
 }
 
+// The chaos game page: the game after Auto, and each figure of the copy machine drawn afresh
+// and sent through 1 to 6 levels; then the transformations page with each example and each
+// figure, levels 1 to 8.
+int JogoCaos(const QString& pasta)
+{
+    QDir().mkpath(pasta);
+    AbrirLumerina();
+    bool ok = true;
+    QWidget* caos = lumerina::Pagina(lumerina::Form::JogoCaos);
+    caos->show();
+    const auto premir = [](QWidget* pagina, const char* nome) {
+        pagina->findChild<QPushButton*>(QString::fromUtf8(nome))->click();
+    };
+    premir(caos, "IniciarCaos");
+    for (int k = 0; k < 12; ++k)
+        premir(caos, "ContinuarCaos");
+    ok = Guardar(caos, pasta + "/caos-continuar.png") && ok;
+    premir(caos, "Automático");
+    ok = Guardar(caos, pasta + "/caos-auto.png") && ok;
+    struct Figura { const char* nome; const char* desenhar; const char* niveis[6]; };
+    const Figura figuras[] = {
+        {"letras", "DesenharNome", {"Command14", "Command13", "Command12", "Command11", "Command10", "Command9"}},
+        {"circulo", "DesenharCírculo", {"Command3", "Command4", "Command5", "Command6", "Command7", "Command1"}},
+        {"quadrado", "DesenharQuadrado", {"Command2", "Command8", "Command15", "Command16", "Command17", "Command18"}},
+        {"utilizador", "DesenharUtilizador", {"Command19", "Command20", "Command21", "Command22", "Command23", "Command24"}},
+    };
+    auto* imagem = caos->findChild<lumerina::ControloImagem*>("Picture1");
+    for (const Figura& f : figuras) {
+        for (int nivel = 0; nivel <= 6; ++nivel) {
+            premir(caos, f.desenhar);
+            if (f.desenhar == figuras[3].desenhar) {
+                // A spiral drawn by hand, from the centre outwards.
+                emit imagem->RatoPremido(Qt::LeftButton, 0, 0);
+                for (int k = 1; k < 600; ++k)
+                    emit imagem->RatoMovido(Qt::LeftButton, 0.0013 * k * std::cos(k * 0.05),
+                                            0.0013 * k * std::sin(k * 0.05));
+            }
+            if (nivel > 0)
+                premir(caos, f.niveis[nivel - 1]);
+            ok = Guardar(caos, QStringLiteral("%1/copiadora-%2-%3.png").arg(pasta, f.nome).arg(nivel)) && ok;
+        }
+    }
+
+    QWidget* pagina = lumerina::Pagina(lumerina::Form::Transformacoes);
+    pagina->show();
+    struct Exemplo { const char* nome; const char* botao; };
+    const Exemplo exemplos[] = {{"espiral", "ExemploEspiral"}, {"sierpinski", "ExemploSierpinski"}};
+    for (const char* figura : {"FiguraF", "FiguraQuadrado", "FiguraTriangulo"}) {
+        pagina->findChild<QRadioButton*>(QString::fromUtf8(figura))->setChecked(true);
+        for (const Exemplo& e : exemplos) {
+            premir(pagina, e.botao);
+            for (int nivel = 1; nivel <= 8; ++nivel) {
+                if (nivel > 1)
+                    premir(pagina, "AplicarNovamente");
+                ok = Guardar(pagina, QStringLiteral("%1/transformacoes-%2-%3-%4.png")
+                                         .arg(pasta, figura, e.nome).arg(nivel)) && ok;
+            }
+        }
+    }
+    // Built maps: a rotation of 30 degrees with a shear, from the builder.
+    auto* tipo = pagina->findChild<QComboBox*>("TipoConstrução");
+    tipo->setCurrentIndex(1);
+    pagina->findChild<QLineEdit*>("Parâmetro1")->setText("30");
+    premir(pagina, "Construir1");
+    tipo->setCurrentIndex(4);
+    pagina->findChild<QLineEdit*>("Parâmetro1")->setText("0.5");
+    premir(pagina, "Construir2");
+    pagina->findChild<QCheckBox*>("Usar3")->setChecked(false);
+    premir(pagina, "DesenharFigura");
+    ok = Guardar(pagina, pasta + "/transformacoes-construidas.png") && ok;
+    std::printf("jogo do caos e transformações %s\n", ok ? "escritos" : "FALHOU");
+    return ok ? 0 : 1;
+}
+
 }  // namespace
 
 int main(int argc, char* argv[])
@@ -239,8 +331,10 @@ int main(int argc, char* argv[])
         codigo = SistemasIFS(args[2]);
     else if (args.size() >= 3 && args[1] == "julia")
         codigo = ExemplosJulia(args[2]);
+    else if (args.size() >= 3 && args[1] == "caos")
+        codigo = JogoCaos(args[2]);
     else
-        std::fprintf(stderr, "uso: lumerina_capturas docs PASTA | paginas PASTA | lsistemas PASTA | ifs PASTA | julia PASTA\n");
+        std::fprintf(stderr, "uso: lumerina_capturas docs PASTA | paginas PASTA | lsistemas PASTA | ifs PASTA | julia PASTA | caos PASTA\n");
     lumerina::FecharLumerina();
     return codigo;
 }

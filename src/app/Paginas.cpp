@@ -11,6 +11,8 @@
 #include "geometric/PaginaIFS.h"
 #include "dynamics/PaginaAtractores.h"
 #include "geometric/PaginaLSistemas.h"
+#include "geometric/PaginaJogoCaos.h"
+#include "geometric/PaginaTransformacoes.h"
 
 #include <QPointer>
 
@@ -58,6 +60,10 @@ QWidget* Criar(int numero)
         return new PaginaIFS(Descricao(numero));
     case Form::LSistemas:
         return new PaginaLSistemas(Descricao(numero));
+    case Form::JogoCaos:
+        return new PaginaJogoCaos(Descricao(numero));
+    case Form::Transformacoes:
+        return new PaginaTransformacoes(Descricao(numero));
     case Form::Atractores:
         return new PaginaAtractores(Descricao(numero));
     case Form::Inicial:

@@ -12,6 +12,8 @@
 
 #include <vector>
 
+#include <type_traits>
+
 namespace lumerina {
 
 struct VistaJulia {
@@ -111,7 +113,7 @@ void PassoInverso(double& x, double& y, double C, double D);
 
 // The inverse iteration of the Julia page: from z = 1 + i, steps t = 0..N (both ends), and
 // each point after step t > 50 is handed to ponto(x, y): N − 50 points when N > 50, none
-// otherwise. It does not yield.
+// otherwise. A ponto that returns bool stops the iteration by returning false.
 constexpr int kPontosIgnorados = 51;
 template <class F>
 void IteracaoInversa(double C, double D, double N, F&& ponto)
@@ -119,8 +121,14 @@ void IteracaoInversa(double C, double D, double N, F&& ponto)
     double x = 1, y = 1;
     for (long long t = 0; double(t) <= N; ++t) {
         PassoInverso(x, y, C, D);
-        if (t >= kPontosIgnorados)
-            ponto(x, y);
+        if (t >= kPontosIgnorados) {
+            if constexpr (std::is_same_v<decltype(ponto(x, y)), bool>) {
+                if (!ponto(x, y))
+                    return;
+            } else {
+                ponto(x, y);
+            }
+        }
     }
 }
 

@@ -361,8 +361,20 @@ void PaginaJulia::DesenharJuliaInversa()
     imagem->Escala(xmin_, ymax_, xmax_, ymin_);
     const QRgb cor = corB_->Cor().rgb();
     SemearAleatorioDoRelogio();
-    IteracaoInversa(C_, D_, N_, [&](double x, double y) { imagem->Pixel(x, y, cor); });
-    sessao.Concluir();
+    // The points come in a blink, but nothing bounds N: a yield every 2^16 points lets a
+    // count in the billions be watched and abandoned ("Abandonar" ends it at once).
+    long long pontos = 0;
+    bool terminou = false;
+    IteracaoInversa(C_, D_, N_, [&](double x, double y) {
+        imagem->Pixel(x, y, cor);
+        if ((++pontos & 0xFFFF) == 0 && !Sistema().Ceder()) {
+            terminou = true;
+            return false;
+        }
+        return true;
+    });
+    if (!terminou)
+        sessao.Concluir();
 }
 
 }  // namespace lumerina

@@ -7,16 +7,14 @@
 // and its Passo() returns the curve's next sample. Pontos() fills a batch with the next n
 // points: the same sequence as n calls of Passo(), done the fast way where there is one.
 
+#include "frame/Ponto.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
 #include <variant>
 
 namespace lumerina {
-
-struct Ponto {
-    double x, y;
-};
 
 // Lorenz flow by explicit Euler, dt = 0.001, from (1, 1, 1):
 //   dx = A·(y − x), dy = x·(B − z) − y, dz = x·y − C·z;  x += dt·dx, y += dt·dy, z += dt·dz.

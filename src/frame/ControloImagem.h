@@ -41,7 +41,8 @@ public:
     int LarguraPixeis() const { return persistente_.width(); }
     int AlturaPixeis() const { return persistente_.height(); }
 
-    // Drawing in the current scale, pen, mode and persistence.
+    // Drawing in the current scale, pen, mode and persistence. A pixel drawn with a pen
+    // wider than 1 is a round dot of the pen's width.
     void Pixel(double x, double y, QRgb cor);
     void Linha(double x1, double y1, double x2, double y2, QRgb cor);
     void Caixa(double x1, double y1, double x2, double y2, QRgb cor);

@@ -4,14 +4,11 @@
 //     y' = c·x + d·y + f
 // in double precision. Both new coordinates are computed from the old point.
 
+#include "frame/Ponto.h"
+
 #include <cmath>
 
 namespace lumerina {
-
-struct Ponto {
-    double x = 0, y = 0;
-    friend constexpr bool operator==(const Ponto&, const Ponto&) = default;
-};
 
 struct MapaAfim {
     double a = 0, b = 0, c = 0, d = 0, e = 0, f = 0;

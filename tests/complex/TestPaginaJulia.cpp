@@ -187,6 +187,25 @@ TEST_F(PaginaJuliaTeste, IteracaoInversaSaltaOs51PrimeirosPontos)
     }
 }
 
+// Nothing bounds the number of points: a count in the trillions must still give way to
+// "Abandonar" (a yield every 65 536 points), and the picture is then not taken as drawn.
+TEST_F(PaginaJuliaTeste, IteracaoInversaEnormeCedeEPodeSerAbandonada)
+{
+    Lado(60);
+    Escolher("IteraçãoInversa");
+    Texto("NumIterações", "1e12");
+    int ultima = 0;
+    sistema->aoCeder = [&](int vez) {
+        ultima = vez;
+        if (vez == 3)
+            Sistema().PedirFim();
+    };
+    Desenhar();
+    EXPECT_EQ(ultima, 3);
+    EXPECT_FALSE(janela->desenhado);
+    EXPECT_TRUE(Achar<QPushButton>(pagina, "Desenhar")->isEnabled());
+}
+
 TEST_F(PaginaJuliaTeste, ValoresPreDefinidosEscrevemCeDSemDesenhar)
 {
     struct Caso { const char* lista; int posicao; const char* nome; const char* c; const char* d; double k, kd; };
