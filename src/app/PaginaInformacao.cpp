@@ -93,6 +93,10 @@ QImage DesenharPaginaInformacao(const QString& html, QSize tamanho, qreal escala
     // that a reader sees at once which words are on the screen; «» holds nothing else.
     static const QRegularExpression citacao(QStringLiteral("«([^«»]*)»"));
     texto.replace(citacao, QStringLiteral(R"(<span class="programa">«\1»</span>)"));
+    // An opening bar of an absolute value may not end a line ("|" allows a break after it):
+    // a word joiner ties it to what it encloses.
+    static const QRegularExpression barraDeAbertura(QStringLiteral("(?<=[\\s>(;])\\|(?=[^\\s<|&])"));
+    texto.replace(barraDeAbertura, QStringLiteral("|\u2060"));
     documento.setHtml(texto);
     // The page must fit its picture: a long page is set a little smaller rather than cut.
     QFont letra(QStringLiteral("DejaVu Sans"));
