@@ -52,14 +52,16 @@ fuzz: deps
 	mkdir -p build/fuzz/corpus
 	./build/fuzz/fuzz_interpretador -max_total_time=$(FUZZ_SECONDS) -max_len=64 build/fuzz/corpus
 
-# Pictures of the pages for docs/, of every information page, of every IFS system and of
-# the chaos game and transformations pages.
+# Pictures of the pages for docs/, of every information page, of every IFS system, of
+# the chaos game and transformations pages, and of every example of the sequences page.
 capturas: deps build/release/CMakeCache.txt
 	cmake --build build/release --target lumerina_capturas -j $(JOBS)
 	./build/release/lumerina_capturas docs docs
 	./build/release/lumerina_capturas paginas build/paginas
 	./build/release/lumerina_capturas ifs build/ifs
 	./build/release/lumerina_capturas caos build/caos
+	./build/release/lumerina_capturas sucessoes build/sucessoes
+	./build/release/lumerina_capturas orbitas-dimensao build/orbitas-dimensao
 
 clean:
 	rm -rf build

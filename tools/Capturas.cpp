@@ -1,10 +1,11 @@
 // Pictures of the program made by the program itself, on the offscreen platform:
-//   lumerina_capturas docs            the main page, the Mandelbrot page after a drawing,
+//   lumerina_capturas docs PASTA      the main page, the Mandelbrot page after a drawing,
 //                                     a comments page, the save dialog, the IFS page after
 //                                     the fern, the L-systems page after a Koch island,
 //                                     the attractors page after a Lorenz drawing, the Julia,
-//                                     relation and Newton pages, the chaos game and the
-//                                     transformations page
+//                                     relation and Newton pages, the chaos game, the
+//                                     transformations page and the sequences page (a
+//                                     construction and a solution)
 //   lumerina_capturas paginas PASTA   every information page, one PNG each
 //   lumerina_capturas lsistemas PASTA the L-systems page after each of its sixteen examples
 //   lumerina_capturas ifs PASTA       every system of the IFS page, one picture each
@@ -13,12 +14,18 @@
 //   lumerina_capturas caos PASTA      the chaos game after Auto, every figure of the copy
 //                                     machine at levels 1 to 6, the transformations page
 //                                     with each example and each figure at levels 1 to 8
+//   lumerina_capturas sucessoes PASTA the sequences page: every example's construction and
+//                                     every sheet of its solution
+//   lumerina_capturas orbitas-dimensao PASTA
+//                                     the orbits page on each example of its instructions, and
+//                                     every figure of the dimension page, measured
 // `make capturas` runs them all.
 
 #include "app/Aplicacao.h"
 #include "app/PaginaInformacao.h"
 #include "app/Paginas.h"
 #include "complex/PaginaRelacao.h"
+#include "dynamics/PaginaSucessoes.h"
 #include "frame/ControloImagem.h"
 #include "frame/Controlos.h"
 #include "frame/Plataforma.h"
@@ -38,6 +45,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
+#include <QToolButton>
 #include <QWidget>
 
 #include <cmath>
@@ -51,6 +59,10 @@ bool Guardar(QWidget* pagina, const QString& ficheiro)
     std::printf("%s %s\n", feito ? "escrito" : "FALHOU", qPrintable(ficheiro));
     return feito;
 }
+
+bool Orbita(const QString& ficheiro, const char* modo, const char* c, const char* d, const char* x0,
+            int passos);
+bool Dimensao(const QString& ficheiro, int figura);
 
 int Documentacao(const QString& pasta)
 {
@@ -126,6 +138,53 @@ int Documentacao(const QString& pasta)
     for (int k = 0; k < 4; ++k)
         transformacoes->findChild<QPushButton*>("AplicarNovamente")->click();
     ok = Guardar(transformacoes, pasta + "/pagina-transformacoes.png") && ok;
+    lumerina::Pagina(lumerina::Form::Comentarios)->hide();
+    // The sequences page: the Koch curve's construction, then the second sheet of its answer.
+    mandel->findChild<QAction*>("IrSucessões")->trigger();
+    QWidget* sucessoes = lumerina::Pagina(lumerina::Form::Sucessoes);
+    sucessoes->findChild<QRadioButton*>("Option3")->click();
+    ok = Guardar(sucessoes, pasta + "/pagina-sucessoes.png") && ok;
+    sucessoes->findChild<QPushButton*>("VerSolução")->click();
+    sucessoes->findChild<QToolButton*>("SetaD3")->click();
+    ok = Guardar(sucessoes, pasta + "/pagina-sucessoes-solucao.png") && ok;
+    // The orbit of 0 for c = -0.75 + 0.1i, near the boundary; box counting on a Sierpinski
+    // triangle.
+    ok = Orbita(pasta + "/pagina-orbitas.png", "ModoOrbita", "-0.75", "0.1", "0", 36) && ok;
+    ok = Dimensao(pasta + "/pagina-dimensao.png", 3) && ok;
+    return ok ? 0 : 1;
+}
+
+// Every example of the sequences page, and every sheet of its solution; a text set smaller
+// than the information pages' type, or cut, is reported.
+int Sucessoes(const QString& pasta)
+{
+    QDir().mkpath(pasta);
+    bool ok = true;
+    auto* pagina = static_cast<lumerina::PaginaSucessoes*>(lumerina::Pagina(lumerina::Form::Sucessoes));
+    pagina->show();
+    for (int k = 1; k <= 8; ++k) {
+        const lumerina::TextosExemplo& textos = lumerina::Textos(k);
+        std::vector<const char*> nomes{textos.construcao};
+        nomes.insert(nomes.end(), textos.solucao.begin(), textos.solucao.end());
+        for (const char* nome : nomes) {
+            qreal pontos = 0;
+            lumerina::DesenharPaginaInformacao(
+                lumerina::TextoSucessao(nome),
+                {lumerina::PaginaSucessoes::kLarguraTexto, lumerina::PaginaSucessoes::kAlturaTexto},
+                1.0, &pontos);
+            std::printf("%s: %s\n", nome,
+                        pontos == 0 ? "NÃO CABE" : qPrintable(QStringLiteral("letra %1").arg(pontos)));
+            ok = ok && pontos > 0;
+        }
+        pagina->EscolherExemplo(k);
+        ok = Guardar(pagina, QStringLiteral("%1/exemplo%2.png").arg(pasta).arg(k)) && ok;
+        pagina->VerSolucao();
+        for (std::size_t folha = 0; folha < textos.solucao.size(); ++folha) {
+            if (folha > 0)
+                pagina->SolucaoSeguinte(k);
+            ok = Guardar(pagina, QStringLiteral("%1/exemplo%2-solucao%3.png").arg(pasta).arg(k).arg(folha + 1)) && ok;
+        }
+    }
     return ok ? 0 : 1;
 }
 
@@ -312,6 +371,68 @@ int JogoCaos(const QString& pasta)
     return ok ? 0 : 1;
 }
 
+// The orbits page in a mode, with c and x0 typed, after `passos` steps.
+bool Orbita(const QString& ficheiro, const char* modo, const char* c, const char* d, const char* x0,
+            int passos)
+{
+    QWidget* pagina = lumerina::Pagina(lumerina::Form::Orbitas);
+    pagina->show();
+    pagina->findChild<QRadioButton*>(QString::fromUtf8(modo))->setChecked(true);
+    pagina->findChild<QLineEdit*>("ValorDeC")->setText(c);
+    pagina->findChild<QLineEdit*>("ValorDeD")->setText(d);
+    pagina->findChild<QLineEdit*>("ValorX0")->setText(x0);
+    auto* passo = pagina->findChild<QPushButton*>("Passo");
+    for (int k = 0; k < passos; ++k)
+        passo->click();
+    const bool ok = Guardar(pagina, ficheiro);
+    pagina->hide();
+    return ok;
+}
+
+// The dimension page: figure k drawn, then measured by box counting.
+bool Dimensao(const QString& ficheiro, int figura)
+{
+    QWidget* pagina = lumerina::Pagina(lumerina::Form::Dimensao);
+    pagina->show();
+    pagina->findChild<QRadioButton*>("AutoSemelhanca")->setChecked(true);
+    pagina->findChild<QComboBox*>("Figura")->setCurrentIndex(figura);
+    pagina->findChild<QPushButton*>("Desenhar")->click();
+    pagina->findChild<QRadioButton*>("ContagemCaixas")->setChecked(true);
+    pagina->findChild<QComboBox*>("Origem")->setCurrentIndex(0);
+    pagina->findChild<QPushButton*>("Medir")->click();
+    return Guardar(pagina, ficheiro);
+}
+
+int OrbitasDimensao(const QString& pasta)
+{
+    QDir().mkpath(pasta);
+    AbrirLumerina();
+    bool ok = true;
+    struct Caso { const char* nome; const char* modo; const char* c; const char* d; const char* x0; int passos; };
+    const Caso casos[] = {
+        {"orbita-c1", "ModoOrbita", "1", "0", "0", 8},
+        {"orbita-c-1", "ModoOrbita", "-1", "0", "0", 8},
+        {"orbita-ci", "ModoOrbita", "0", "1", "0", 8},
+        {"orbita-coelho", "ModoOrbita", "-0.12", "0.75", "0", 40},
+        {"coseno", "ModoCoseno", "0", "0", "1", 30},
+        {"quadratica-0.3", "ModoQuadratica", "0.3", "0", "0", 30},
+        {"quadratica-0.5", "ModoQuadratica", "-0.5", "0", "0", 30},
+        {"quadratica-1", "ModoQuadratica", "-1", "0", "0", 10},
+        {"quadratica-1.3", "ModoQuadratica", "-1.3", "0", "0", 60},
+        {"quadratica-1.76", "ModoQuadratica", "-1.76", "0", "0", 80},
+        {"quadratica-1.9", "ModoQuadratica", "-1.9", "0", "0", 80},
+    };
+    for (const Caso& c : casos)
+        ok = Orbita(pasta + "/" + c.nome + ".png", c.modo, c.c, c.d, c.x0, c.passos) && ok;
+    QWidget* dimensao = lumerina::Pagina(lumerina::Form::Dimensao);
+    for (int k = 0; k < 7; ++k) {
+        ok = Dimensao(pasta + QStringLiteral("/dimensao-%1.png").arg(k), k) && ok;
+        dimensao->findChild<QRadioButton*>("AutoSemelhanca")->setChecked(true);
+        ok = Guardar(dimensao, pasta + QStringLiteral("/semelhanca-%1.png").arg(k)) && ok;
+    }
+    return ok ? 0 : 1;
+}
+
 }  // namespace
 
 int main(int argc, char* argv[])
@@ -333,8 +454,14 @@ int main(int argc, char* argv[])
         codigo = ExemplosJulia(args[2]);
     else if (args.size() >= 3 && args[1] == "caos")
         codigo = JogoCaos(args[2]);
+    else if (args.size() >= 3 && args[1] == "sucessoes")
+        codigo = Sucessoes(args[2]);
+    else if (args.size() >= 3 && args[1] == "orbitas-dimensao")
+        codigo = OrbitasDimensao(args[2]);
     else
-        std::fprintf(stderr, "uso: lumerina_capturas docs PASTA | paginas PASTA | lsistemas PASTA | ifs PASTA | julia PASTA | caos PASTA\n");
+        std::fprintf(stderr, "uso: lumerina_capturas docs PASTA | paginas PASTA | lsistemas PASTA"
+                             " | ifs PASTA | julia PASTA | caos PASTA | sucessoes PASTA"
+                             " | orbitas-dimensao PASTA\n");
     lumerina::FecharLumerina();
     return codigo;
 }

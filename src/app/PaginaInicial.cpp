@@ -1,6 +1,10 @@
 #include "app/PaginaInicial.h"
 
+#include "app/FigurasInicio.h"
+
+#include <QGuiApplication>
 #include <QLabel>
+#include <QScreen>
 
 namespace lumerina {
 
@@ -48,18 +52,31 @@ PaginaInicial::PaginaInicial(const DescricaoPagina& descricao, QWidget* pai)
     resolucao->setAlignment(Qt::AlignRight | Qt::AlignBottom);
     resolucao->setGeometry(kLargura - 260, kAltura - 34, 240, 22);
 
-    // The topics in two columns. Each label leaves room at its right for the decorative
-    // pictures that go beside it.
-    struct Topico { const char* nome; const char* texto; int coluna, linha; };
+    // The topics in two columns, each with a small picture of its topic at its right,
+    // computed now: Image2 to Image8, decorations without actions.
+    using Figura = QImage (*)(QSize, qreal);
+    struct Topico { const char* nome; const char* texto; int coluna, linha; Figura figura; };
     const Topico topicos[] = {
-        {"LabelMandelbrot", "Mandelbrot", 0, 0}, {"LabelJulia", "Julia", 0, 1},
-        {"LabelIFS", "IFS", 0, 2},               {"LabelNewton", "Newton", 0, 3},
-        {"LabelDimensão", "Dimensão", 1, 0},     {"LabelAtractores", "Atractores", 1, 1},
-        {"LabelLSistemas", "L-Sistemas", 1, 2},
+        {"LabelMandelbrot", "Mandelbrot", 0, 0, FiguraMandelbrot},
+        {"LabelJulia", "Julia", 0, 1, FiguraJulia},
+        {"LabelIFS", "IFS", 0, 2, FiguraFeto},
+        {"LabelNewton", "Newton", 0, 3, FiguraNewton},
+        {"LabelDimensão", "Dimensão", 1, 0, FiguraSierpinski},
+        {"LabelAtractores", "Atractores", 1, 1, FiguraAtractor},
+        {"LabelLSistemas", "L-Sistemas", 1, 2, FiguraPlanta},
     };
+    const qreal escala = QGuiApplication::primaryScreen()
+                             ? QGuiApplication::primaryScreen()->devicePixelRatio()
+                             : 1.0;
+    int numero = 2;
     for (const Topico& t : topicos) {
+        const int x = 90 + t.coluna * 470, y = 200 + t.linha * 100;
         QLabel* r = Rotulo(Area(), t.nome, t.texto, 16, true, "#ffffff");
-        r->setGeometry(90 + t.coluna * 470, 200 + t.linha * 100, 170, 40);
+        r->setGeometry(x, y, 170, 40);
+        auto* imagem = new QLabel(Area());
+        imagem->setObjectName(QStringLiteral("Image%1").arg(numero++));
+        imagem->setGeometry(x + 180, y - 25, kLarguraFigura, kAlturaFigura);
+        imagem->setPixmap(QPixmap::fromImage(t.figura({kLarguraFigura, kAlturaFigura}, escala)));
     }
 }
 

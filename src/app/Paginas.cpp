@@ -8,11 +8,14 @@
 #include "complex/PaginaMandelbrot.h"
 #include "complex/PaginaRelacao.h"
 #include "complex/PaginaNewton.h"
+#include "dynamics/PaginaSucessoes.h"
 #include "geometric/PaginaIFS.h"
 #include "dynamics/PaginaAtractores.h"
 #include "geometric/PaginaLSistemas.h"
 #include "geometric/PaginaJogoCaos.h"
 #include "geometric/PaginaTransformacoes.h"
+#include "complex/PaginaOrbitas.h"
+#include "geometric/PaginaDimensao.h"
 
 #include <QPointer>
 
@@ -66,6 +69,10 @@ QWidget* Criar(int numero)
         return new PaginaTransformacoes(Descricao(numero));
     case Form::Atractores:
         return new PaginaAtractores(Descricao(numero));
+    case Form::Orbitas:
+        return new PaginaOrbitas(Descricao(numero));
+    case Form::Dimensao:
+        return new PaginaDimensao(Descricao(numero));
     case Form::Inicial:
         return new PaginaInicial(Descricao(numero));
     case Form::Newton:
@@ -76,6 +83,8 @@ QWidget* Criar(int numero)
         return new PaginaInformacao(LivroComentarios(), PaginaComentarios);
     case Form::Sugestoes:
         return new PaginaInformacao(LivroSugestoes(), 1);
+    case Form::Sucessoes:
+        return new PaginaSucessoes(Descricao(numero));
     default:
         // Topic pages still waiting for their controls: their window, title and menu bar.
         return new PaginaBase(Descricao(numero));
