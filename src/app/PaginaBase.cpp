@@ -9,6 +9,14 @@
 
 namespace lumerina {
 
+void PaginaBase::ColocarTitulo(int x, int largura, int altura)
+{
+    QFont letra = titulo_->font();
+    letra.setPointSize(14);
+    titulo_->setFont(letra);
+    titulo_->setGeometry(x, 2, largura, altura);
+}
+
 bool PaginaBase::Inicial() const { return descricao_.numero == Form::Inicial; }
 
 PaginaBase::PaginaBase(const DescricaoPagina& descricao, QWidget* pai)

@@ -23,6 +23,9 @@ public:
     // window's caption and the menu bar.
     static constexpr int kLargura = 1012;
     static constexpr int kAltura = 672;
+    // The drawing pages: the picture on the left, the controls in a panel on the right.
+    static constexpr int kPainelX = 668;
+    static constexpr int kPainelLargura = 336;
 
     explicit PaginaBase(const DescricaoPagina& descricao, QWidget* pai = nullptr);
 
@@ -32,6 +35,8 @@ public:
     int PaginaComentariosPropria() const { return descricao_.paginaComentarios; }
     QWidget* Area() const { return area_; }
     QLabel* Titulo() const { return titulo_; }
+    // The title in 14-point type over a column (by default the drawing pages' panel).
+    void ColocarTitulo(int x = kPainelX, int largura = kPainelLargura, int altura = 28);
 
 protected:
     void closeEvent(QCloseEvent* evento) override;

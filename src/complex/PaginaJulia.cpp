@@ -26,8 +26,6 @@ namespace lumerina {
 namespace {
 
 const QString kTitulo = QStringLiteral("Conjuntos de Julia");
-constexpr int kPainelX = 668;
-constexpr int kPainelLargura = 336;
 
 // TabelaValoresK: the named values of k in slots 1..60, the texts kept as they are (the ")"
 // of slot 6 and the name of slot 52, which does not match its real part, included).
@@ -115,10 +113,7 @@ PaginaJulia::PaginaJulia(const DescricaoPagina& descricao, QWidget* pai)
     : PaginaBase(descricao, pai)
 {
     QWidget* area = Area();
-    QFont letra = Titulo()->font();
-    letra.setPointSize(14);
-    Titulo()->setFont(letra);
-    Titulo()->setGeometry(kPainelX, 2, kPainelLargura, 28);
+    ColocarTitulo();
 
     janela_ = new JanelaDesenho(this, area, QPoint(8, 8));
 

@@ -16,8 +16,6 @@ namespace lumerina {
 namespace {
 
 const QString kTitulo = QStringLiteral("Conjunto de Mandelbrot");
-constexpr int kPainelX = 668;
-constexpr int kPainelLargura = 336;
 
 }  // namespace
 
@@ -25,10 +23,7 @@ PaginaMandelbrot::PaginaMandelbrot(const DescricaoPagina& descricao, QWidget* pa
     : PaginaBase(descricao, pai)
 {
     QWidget* area = Area();
-    QFont letra = Titulo()->font();
-    letra.setPointSize(14);
-    Titulo()->setFont(letra);
-    Titulo()->setGeometry(kPainelX, 2, kPainelLargura, 28);
+    ColocarTitulo();
 
     janela_ = new JanelaDesenho(this, area, QPoint(8, 8));
 

@@ -22,8 +22,6 @@ namespace lumerina {
 namespace {
 
 const QString kTitulo = QStringLiteral("Método de Newton");
-constexpr int kPainelX = 668;
-constexpr int kPainelLargura = 336;
 
 // The degree a text holds by the page's checks: a whole number above 1, or a refusal.
 enum class LeituraGrau { Aceite, NaoInteiro, NaoMaiorQueUm };
@@ -64,10 +62,7 @@ PaginaNewton::PaginaNewton(const DescricaoPagina& descricao, QWidget* pai)
     : PaginaBase(descricao, pai)
 {
     QWidget* area = Area();
-    QFont letra = Titulo()->font();
-    letra.setPointSize(14);
-    Titulo()->setFont(letra);
-    Titulo()->setGeometry(kPainelX, 2, kPainelLargura, 28);
+    ColocarTitulo();
 
     JanelaDesenho::Opcoes opcoesJanela;
     const char* const rotulos[4] = {"Xmin =", "Xmax =", "Ymin =", "Ymax ="};

@@ -25,8 +25,6 @@ namespace lumerina {
 
 namespace {
 
-constexpr int kPainelX = 668;
-constexpr int kPainelLargura = 336;
 constexpr int kLado = 628;  // the picture, in pixels
 
 // Faint, so that the orbit stands out: the set, the band just outside it, the axes.
@@ -83,10 +81,7 @@ PaginaOrbitas::PaginaOrbitas(const DescricaoPagina& descricao, QWidget* pai)
     : PaginaBase(descricao, pai)
 {
     QWidget* area = Area();
-    QFont letra = Titulo()->font();
-    letra.setPointSize(14);
-    Titulo()->setFont(letra);
-    Titulo()->setGeometry(kPainelX, 2, kPainelLargura, 28);
+    ColocarTitulo();
 
     JanelaDesenho::Opcoes opcoes;
     opcoes.limites = false;

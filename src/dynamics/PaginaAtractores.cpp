@@ -25,8 +25,6 @@ namespace lumerina {
 namespace {
 
 const QString kTitulo = QStringLiteral("Atractores");
-constexpr int kPainelX = 668;
-constexpr int kPainelLargura = 336;
 constexpr QRgb kCorPontos = 0xFF000080u;  // blue, colour 1 of the 16-colour palette
 constexpr int kLote = 4096;               // points computed and plotted together at full speed
 constexpr int kMaximoEspera = 100;        // ms, the speed bars' right end
@@ -64,10 +62,7 @@ PaginaAtractores::PaginaAtractores(const DescricaoPagina& descricao, QWidget* pa
     : PaginaBase(descricao, pai)
 {
     QWidget* area = Area();
-    QFont letra = Titulo()->font();
-    letra.setPointSize(14);
-    Titulo()->setFont(letra);
-    Titulo()->setGeometry(kPainelX, 2, kPainelLargura, 28);
+    ColocarTitulo();
 
     janela_ = new JanelaDesenho(this, area, QPoint(8, 8));
     // On this page HScroll1 … HScroll4 are the speed bars; the picture's size bars give way.

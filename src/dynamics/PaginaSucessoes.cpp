@@ -231,10 +231,7 @@ PaginaSucessoes::PaginaSucessoes(const DescricaoPagina& descricao, QWidget* pai)
     : PaginaBase(descricao, pai)
 {
     QWidget* area = Area();
-    QFont letra = Titulo()->font();
-    letra.setPointSize(14);
-    Titulo()->setFont(letra);
-    Titulo()->setGeometry(kColunaX, 2, kColunaLargura, 28);
+    ColocarTitulo(kColunaX, kColunaLargura);
 
     imagem_ = new ControloImagem(area, kLadoImagem, kLadoImagem);
     imagem_->setObjectName(QStringLiteral("Picture1"));

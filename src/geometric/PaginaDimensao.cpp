@@ -22,8 +22,6 @@ namespace lumerina {
 namespace {
 
 const QString kTitulo = QStringLiteral("Dimensão fractal");
-constexpr int kPainelX = 668;
-constexpr int kPainelLargura = 336;
 constexpr QRgb kFigura = 0xFF000000;
 
 // The pictures that can be measured: this page's own, or another page's by its title.
@@ -65,10 +63,7 @@ PaginaDimensao::PaginaDimensao(const DescricaoPagina& descricao, QWidget* pai)
     : PaginaBase(descricao, pai)
 {
     QWidget* area = Area();
-    QFont letra = Titulo()->font();
-    letra.setPointSize(14);
-    Titulo()->setFont(letra);
-    Titulo()->setGeometry(kPainelX, 2, kPainelLargura, 28);
+    ColocarTitulo();
 
     JanelaDesenho::Opcoes opcoes;
     opcoes.limites = false;

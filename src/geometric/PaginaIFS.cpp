@@ -25,8 +25,6 @@ namespace {
 
 const QString kTitulo = QStringLiteral("Sistemas de função iterada");
 constexpr int kLado = 627;  // the picture's drawing area, in pixels
-constexpr int kPainelX = 668;
-constexpr int kPainelLargura = 336;
 constexpr int kIntervaloProgresso = 33;  // ms between two repaints of a drawing in progress
 
 // A button of an "Exemplos" frame: its name and caption. The caption is also the name of the

@@ -19,8 +19,6 @@ namespace {
 const QString kTitulo = QStringLiteral("Sistemas de função iterada");
 // The one message of the game, with its own lower-case title.
 const QString kTituloJogo = QStringLiteral("sistemas de função iterada");
-constexpr int kPainelX = 668;
-constexpr int kPainelLargura = 336;
 constexpr int kPassosAutomatico = 100000;
 
 // A frame of the copy machine: its caption, its Desenhar button, its six level buttons (first
@@ -64,10 +62,7 @@ PaginaJogoCaos::PaginaJogoCaos(const DescricaoPagina& descricao, QWidget* pai)
     : PaginaBase(descricao, pai)
 {
     QWidget* area = Area();
-    QFont letra = Titulo()->font();
-    letra.setPointSize(14);
-    Titulo()->setFont(letra);
-    Titulo()->setGeometry(kPainelX, 2, kPainelLargura, 28);
+    ColocarTitulo();
 
     JanelaDesenho::Opcoes opcoes;
     opcoes.limites = false;

@@ -23,8 +23,6 @@ namespace lumerina {
 namespace {
 
 const QString kTitulo = QStringLiteral("L-Sistemas");
-constexpr int kPainelX = 668;
-constexpr int kPainelLargura = 336;
 constexpr std::size_t kBloco = 4096;  // segments drawn together: 128 KiB, kept in cache
 
 // A whole number with its thousands set apart by spaces, as Portuguese writes them.
@@ -87,10 +85,7 @@ PaginaLSistemas::PaginaLSistemas(const DescricaoPagina& descricao, QWidget* pai)
     : PaginaBase(descricao, pai), segmentos_(kBloco)
 {
     QWidget* area = Area();
-    QFont letra = Titulo()->font();
-    letra.setPointSize(14);
-    Titulo()->setFont(letra);
-    Titulo()->setGeometry(kPainelX, 2, kPainelLargura, 28);
+    ColocarTitulo();
     Titulo()->setObjectName(QStringLiteral("Label3"));
 
     JanelaDesenho::Opcoes opcoes;

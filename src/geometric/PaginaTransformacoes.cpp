@@ -21,8 +21,6 @@ namespace {
 
 const QString kTitulo = QStringLiteral("Transformações");
 const char* const kSemMapas = "Deve usar pelo menos uma transformação.";
-constexpr int kPainelX = 668;
-constexpr int kPainelLargura = 336;
 
 // Colours of the 16-colour palette: the original, the earlier images, the last image, axes.
 constexpr int kCorOriginal = 9;
@@ -57,10 +55,7 @@ PaginaTransformacoes::PaginaTransformacoes(const DescricaoPagina& descricao, QWi
     : PaginaBase(descricao, pai)
 {
     QWidget* area = Area();
-    QFont letra = Titulo()->font();
-    letra.setPointSize(14);
-    Titulo()->setFont(letra);
-    Titulo()->setGeometry(kPainelX, 2, kPainelLargura, 26);
+    ColocarTitulo(kPainelX, kPainelLargura, 26);
 
     JanelaDesenho::Opcoes opcoes;
     opcoes.barras = false;
