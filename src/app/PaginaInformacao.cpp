@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QTextDocument>
 #include <QToolButton>
@@ -36,6 +37,11 @@ li { margin-bottom: 2px; }
 code { font-family: "DejaVu Sans Mono", monospace; color: #7a2e0e; }
 pre { font-family: "DejaVu Sans Mono", monospace; color: #2d3748; margin-left: 18px; }
 th { background-color: #e3e9f2; }
+td, th { padding-left: 7px; padding-right: 7px; }
+.conj { text-decoration: overline; }
+.programa { color: #0f5a63; }
+.nivel { color: #8a5a00; font-style: italic; margin-top: 0px; }
+.exercicio { margin-top: 8px; background-color: #efe8d4; }
 )";
 
 }  // namespace
@@ -83,6 +89,14 @@ QImage DesenharPaginaInformacao(const QString& html, QSize tamanho, qreal escala
     QString texto = html;
     texto.replace(QLatin1String("<table>"),
                   QLatin1String(R"(<table cellpadding="3" cellspacing="0" border="0">)"));
+    // Texts quoted from the program («Desenhar», «Xmin =») are set apart from the prose, so
+    // that a reader sees at once which words are on the screen; «» holds nothing else.
+    static const QRegularExpression citacao(QStringLiteral("«([^«»]*)»"));
+    texto.replace(citacao, QStringLiteral(R"(<span class="programa">«\1»</span>)"));
+    // An opening bar of an absolute value may not end a line ("|" allows a break after it):
+    // a word joiner ties it to what it encloses.
+    static const QRegularExpression barraDeAbertura(QStringLiteral("(?<=[\\s>(;])\\|(?=[^\\s<|&])"));
+    texto.replace(barraDeAbertura, QStringLiteral("|\u2060"));
     documento.setHtml(texto);
     // The page must fit its picture: a long page is set a little smaller rather than cut.
     QFont letra(QStringLiteral("DejaVu Sans"));
