@@ -59,6 +59,8 @@ capturas: deps build/release/CMakeCache.txt
 	./build/release/lumerina_capturas docs docs
 	./build/release/lumerina_capturas paginas build/paginas
 	./build/release/lumerina_capturas ifs build/ifs
+	./build/release/lumerina_capturas lsistemas build/lsistemas
+	./build/release/lumerina_capturas julia build/julia
 	./build/release/lumerina_capturas caos build/caos
 	./build/release/lumerina_capturas sucessoes build/sucessoes
 	./build/release/lumerina_capturas orbitas-dimensao build/orbitas-dimensao
