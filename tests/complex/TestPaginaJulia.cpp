@@ -7,7 +7,7 @@
 #include "frame/EsquemaCores.h"
 #include "frame/JanelaDesenho.h"
 #include "interp/LerValor.h"
-#include "support/PlataformaGravadora.h"
+#include "support/TestePagina.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -23,41 +23,9 @@ namespace {
 
 const QRgb kBranco = qRgb(255, 255, 255);
 
-class PaginaJuliaTeste : public TesteUi {
+class PaginaJuliaTeste : public TestePagina<PaginaJulia, Form::Julia> {
 protected:
-    void SetUp() override
-    {
-        TesteUi::SetUp();
-        pagina = qobject_cast<PaginaJulia*>(Pagina(1));
-        ASSERT_NE(pagina, nullptr);
-        janela = pagina->Janela();
-        imagem = janela->Imagem();
-    }
-    void Lado(int largura, int altura)
-    {
-        Achar<QScrollBar>(pagina, "HScroll1")->setValue(largura);
-        Achar<QScrollBar>(pagina, "VScroll1")->setValue(altura);
-    }
-    void Lado(int pixeis) { Lado(pixeis, pixeis); }
-    void Texto(const char* campo, const char* texto)
-    {
-        Achar<QLineEdit>(pagina, campo)->setText(QString::fromUtf8(texto));
-    }
-    QString Campo(const char* campo) { return Achar<QLineEdit>(pagina, campo)->text(); }
-    void Vista(const char* x0, const char* x1, const char* y0, const char* y1)
-    {
-        Texto("Xmínimo", x0);
-        Texto("Xmáximo", x1);
-        Texto("Ymínimo", y0);
-        Texto("Ymáximo", y1);
-    }
-    void Escolher(const char* opcao) { Achar<QRadioButton>(pagina, opcao)->click(); }
-    void Desenhar()
-    {
-        sistema->cedencias = 0;
-        Achar<QPushButton>(pagina, "Desenhar")->click();
-    }
-    QRgb Pixel(int x, int y) const { return imagem->Imagem().pixel(x, y); }
+    void Desenhar() { Premir("Desenhar"); }
     int NaoBrancos() const
     {
         int n = 0;
@@ -67,10 +35,6 @@ protected:
                 n += img.pixel(x, y) != kBranco;
         return n;
     }
-
-    PaginaJulia* pagina = nullptr;
-    JanelaDesenho* janela = nullptr;
-    ControloImagem* imagem = nullptr;
 };
 
 TEST_F(PaginaJuliaTeste, ValidacaoPelaOrdemEMensagemDupla)

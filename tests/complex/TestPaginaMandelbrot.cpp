@@ -5,7 +5,7 @@
 #include "complex/PaginaMandelbrot.h"
 #include "frame/ControloImagem.h"
 #include "frame/JanelaDesenho.h"
-#include "support/PlataformaGravadora.h"
+#include "support/TestePagina.h"
 
 #include <QAction>
 #include <QLabel>
@@ -21,51 +21,9 @@ namespace {
 
 const QRgb kCastanho = qRgb(128, 128, 0);  // colour 6 of the 16-colour palette
 
-class Mandelbrot : public TesteUi {
+class Mandelbrot : public TestePagina<PaginaMandelbrot, Form::Mandelbrot> {
 protected:
-    void SetUp() override
-    {
-        TesteUi::SetUp();
-        pagina = qobject_cast<PaginaMandelbrot*>(Pagina(2));
-        ASSERT_NE(pagina, nullptr);
-        janela = pagina->Janela();
-        imagem = janela->Imagem();
-    }
-    void Lado(int pixeis)
-    {
-        Achar<QScrollBar>(pagina, "HScroll1")->setValue(pixeis);
-        Achar<QScrollBar>(pagina, "VScroll1")->setValue(pixeis);
-    }
-    void Texto(const char* campo, const char* texto)
-    {
-        Achar<QLineEdit>(pagina, campo)->setText(QString::fromUtf8(texto));
-    }
-    void Vista(const char* x0, const char* x1, const char* y0, const char* y1)
-    {
-        Texto("Xmínimo", x0);
-        Texto("Xmáximo", x1);
-        Texto("Ymínimo", y0);
-        Texto("Ymáximo", y1);
-    }
-    void Escolher(const char* opcao) { Achar<QRadioButton>(pagina, opcao)->click(); }
-    // A drawing; the recorder counts its yields from 1.
-    void Desenhar()
-    {
-        sistema->cedencias = 0;
-        Achar<QPushButton>(pagina, "DesenharMandelbrot")->click();
-    }
-    QRgb Pixel(int x, int y) const { return imagem->Imagem().pixel(x, y); }
-    // A mouse event at a pixel of the picture.
-    void Rato(QEvent::Type tipo, QPoint p, Qt::MouseButton botao, Qt::MouseButtons botoes)
-    {
-        const QPointF onde = imagem->contentsRect().topLeft() + p;
-        QMouseEvent e(tipo, onde, imagem->mapToGlobal(onde), botao, botoes, Qt::NoModifier);
-        QCoreApplication::sendEvent(imagem, &e);
-    }
-
-    PaginaMandelbrot* pagina = nullptr;
-    JanelaDesenho* janela = nullptr;
-    ControloImagem* imagem = nullptr;
+    void Desenhar() { Premir("DesenharMandelbrot"); }
 };
 
 TEST_F(Mandelbrot, ValidacaoPelaOrdemComAsMensagensDaPagina)

@@ -14,7 +14,7 @@
 #include "frame/ControloImagem.h"
 #include "frame/EsquemaCores.h"
 #include "frame/JanelaDesenho.h"
-#include "support/PlataformaGravadora.h"
+#include "support/TestePagina.h"
 
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -33,60 +33,23 @@ constexpr int kColuna1 = 16, kColuna1e5 = 20, kColuna2 = 24;
 
 QRgb Cinzento(int v) { return qRgb(v, v, v); }
 
-class Newton : public TesteUi {
+class Newton : public TestePagina<PaginaNewton, Form::Newton> {
 protected:
     void SetUp() override
     {
-        TesteUi::SetUp();
-        pagina = qobject_cast<PaginaNewton*>(Pagina(Form::Newton));
-        ASSERT_NE(pagina, nullptr);
-        janela = pagina->Janela();
-        imagem = janela->Imagem();
-        Achar<QScrollBar>(pagina, "HScroll1")->setValue(kLado);
-        Achar<QScrollBar>(pagina, "VScroll1")->setValue(kLado);
+        TestePagina::SetUp();
+        if (HasFatalFailure())
+            return;
+        Lado(kLado);
         Vista("-1", "3", "-1", "3");
     }
-    void Texto(const char* campo, const char* texto)
-    {
-        Achar<QLineEdit>(pagina, campo)->setText(QString::fromUtf8(texto));
-    }
-    void Vista(const char* x0, const char* x1, const char* y0, const char* y1)
-    {
-        Texto("Xmínimo", x0);
-        Texto("Xmáximo", x1);
-        Texto("Ymínimo", y0);
-        Texto("Ymáximo", y1);
-    }
-    void Escolher(const char* opcao) { Achar<QRadioButton>(pagina, opcao)->click(); }
-    // A drawing; the recorder counts its yields from 1.
-    void Desenhar(const char* botao = "Newton")
-    {
-        sistema->cedencias = 0;
-        Achar<QPushButton>(pagina, botao)->click();
-    }
-    QRgb Pixel(int x, int y) const { return imagem->Imagem().pixel(x, y); }
-    // A left-button drag between two pixels of the picture.
-    void Arrastar(QPoint de, QPoint ate)
-    {
-        const auto rato = [this](QEvent::Type tipo, QPoint p, Qt::MouseButton b, Qt::MouseButtons bs) {
-            const QPointF onde = imagem->contentsRect().topLeft() + p;
-            QMouseEvent e(tipo, onde, imagem->mapToGlobal(onde), b, bs, Qt::NoModifier);
-            QCoreApplication::sendEvent(imagem, &e);
-        };
-        rato(QEvent::MouseButtonPress, de, Qt::LeftButton, Qt::LeftButton);
-        rato(QEvent::MouseMove, ate, Qt::NoButton, Qt::LeftButton);
-        rato(QEvent::MouseButtonRelease, ate, Qt::LeftButton, Qt::NoButton);
-    }
+    void Desenhar(const char* botao = "Newton") { Premir(botao); }
     void Enter(const char* campo)
     {
         auto* c = Achar<QLineEdit>(pagina, campo);
         c->setFocus();
         QTest::keyClick(c, Qt::Key_Return);
     }
-
-    PaginaNewton* pagina = nullptr;
-    JanelaDesenho* janela = nullptr;
-    ControloImagem* imagem = nullptr;
 };
 
 TEST_F(Newton, ValidacaoPelaOrdemComOsTitulosDaPagina)

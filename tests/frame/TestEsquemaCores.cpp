@@ -94,18 +94,6 @@ TEST(EsquemaCores, EntradaArredondadaAoParMaisProximo)
     EXPECT_EQ(CorEntrada(e, 0), 0xFF123456u);  // the layout of QRgb
 }
 
-TEST(EsquemaCores, PaletaDeDezasseisCores)
-{
-    const Cor esperadas[16] = {
-        CorRGB(0, 0, 0),       CorRGB(0, 0, 128),   CorRGB(0, 128, 0),   CorRGB(0, 128, 128),
-        CorRGB(128, 0, 0),     CorRGB(128, 0, 128), CorRGB(128, 128, 0), CorRGB(192, 192, 192),
-        CorRGB(128, 128, 128), CorRGB(0, 0, 255),   CorRGB(0, 255, 0),   CorRGB(0, 255, 255),
-        CorRGB(255, 0, 0),     CorRGB(255, 0, 255), CorRGB(255, 255, 0), CorRGB(255, 255, 255),
-    };
-    for (int k = 0; k < 16; ++k)
-        EXPECT_EQ(Paleta16[k], esperadas[k]) << k;
-}
-
 TEST(EsquemaCores, ColoracoesDaPaginaMandelbrot)
 {
     EsquemaCores fogo, multicor;
