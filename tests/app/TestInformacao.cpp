@@ -44,29 +44,16 @@ protected:
 
 TEST_F(Informacao, AbremNaPaginaDoTopico)
 {
+    // Which page each topic opens at is the navigation's table; here, what that page shows.
     AbrirLumerina();
-    PaginaInformacao* comentarios = Abrir(5, "Comentários", 8);
+    PaginaInformacao* comentarios = Abrir(2, "Comentários", 8);
     ASSERT_NE(comentarios, nullptr);
-    EXPECT_EQ(comentarios->PaginaActual(), 1);
-    EXPECT_FALSE(Visivel(comentarios, "SetaE"));
-    EXPECT_TRUE(Visivel(comentarios, "SetaD"));
-    EXPECT_EQ(Numero(comentarios), "1");
-    EXPECT_EQ(Achar<QLabel>(comentarios, "Label3")->text(), "de  73");
-    EXPECT_EQ(ImagemVisivel(comentarios), 1);
-    comentarios->Fechar();
-
-    comentarios = Abrir(2, "Comentários", 8);
     EXPECT_EQ(comentarios->PaginaActual(), 11);
+    EXPECT_EQ(Numero(comentarios), "11");
+    EXPECT_EQ(Achar<QLabel>(comentarios, "Label3")->text(), "de  73");
     EXPECT_TRUE(Visivel(comentarios, "SetaE"));
     EXPECT_TRUE(Visivel(comentarios, "SetaD"));
     EXPECT_EQ(ImagemVisivel(comentarios), 11);
-
-    PaginaInformacao* instrucoes = Abrir(2, "Instruções", 6);
-    EXPECT_EQ(instrucoes->PaginaActual(), 6);
-    EXPECT_EQ(Achar<QLabel>(instrucoes, "Label3")->text(), "de  26");
-    PaginaInformacao* sugestoes = Abrir(2, "Sugestões", 13);
-    EXPECT_EQ(sugestoes->PaginaActual(), 1);
-    EXPECT_EQ(Achar<QLabel>(sugestoes, "Label3")->text(), "de  3");
 }
 
 TEST_F(Informacao, SetasNoPrimeiroENoUltimoPaginas)

@@ -210,9 +210,7 @@ TEST_F(Mandelbrot, EntradasEstranhasNaoRebentam)
     Texto("MaxIterações", "20");
     Desenhar();
     EXPECT_TRUE(janela->desenhado);
-    Rato(QEvent::MouseButtonPress, {1, 5}, Qt::LeftButton, Qt::LeftButton);
-    Rato(QEvent::MouseMove, {9, 9}, Qt::NoButton, Qt::LeftButton);
-    Rato(QEvent::MouseButtonRelease, {9, 9}, Qt::LeftButton, Qt::NoButton);
+    Arrastar({1, 5}, {9, 9});
     sistema->mensagens.clear();
     Desenhar();  // whatever the fields now say
     EXPECT_LE(sistema->mensagens.size(), 1u);
@@ -243,9 +241,7 @@ TEST_F(Mandelbrot, ZoomEscreveOsLimitesEODesenhoSeguinteAmplia)
     Vista("-2", "1", "-1.5", "1.5");
     Texto("MaxIterações", "30");
     Desenhar();
-    Rato(QEvent::MouseButtonPress, {50, 25}, Qt::LeftButton, Qt::LeftButton);
-    Rato(QEvent::MouseMove, {75, 75}, Qt::NoButton, Qt::LeftButton);
-    Rato(QEvent::MouseButtonRelease, {75, 75}, Qt::LeftButton, Qt::NoButton);
+    Arrastar({50, 25}, {75, 75});
     // x = -2 + px * 3/100, y = 1.5 - py * 3/100
     EXPECT_EQ(Achar<QLineEdit>(pagina, "Xmínimo")->text(), "-0.5");
     EXPECT_EQ(Achar<QLineEdit>(pagina, "Xmáximo")->text(), "0.25");
@@ -300,9 +296,7 @@ TEST_F(Mandelbrot, DesenhoRecusadoNaoDeixaAmpliar)
     Texto("Xmínimo", "1/0");
     Desenhar();
     ASSERT_EQ(sistema->UltimoTexto(), "Divisão por zero.");
-    Rato(QEvent::MouseButtonPress, {50, 25}, Qt::LeftButton, Qt::LeftButton);
-    Rato(QEvent::MouseMove, {75, 75}, Qt::NoButton, Qt::LeftButton);
-    Rato(QEvent::MouseButtonRelease, {75, 75}, Qt::LeftButton, Qt::NoButton);
+    Arrastar({50, 25}, {75, 75});
     EXPECT_EQ(Achar<QLineEdit>(pagina, "Xmínimo")->text(), "1/0");
     EXPECT_EQ(Achar<QLineEdit>(pagina, "Xmáximo")->text(), "0.6");
     EXPECT_EQ(Achar<QLineEdit>(pagina, "Ymínimo")->text(), "-1.3");

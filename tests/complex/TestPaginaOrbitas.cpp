@@ -6,7 +6,7 @@
 #include "complex/PaginaOrbitas.h"
 #include "frame/ControloImagem.h"
 #include "frame/JanelaDesenho.h"
-#include "support/PlataformaGravadora.h"
+#include "support/TestePagina.h"
 
 #include <QAction>
 #include <QLabel>
@@ -28,21 +28,16 @@ namespace {
 
 constexpr QRgb kTeia = 0xFFC02020;
 
-class PaginaDeOrbitas : public TesteUi {
+class PaginaDeOrbitas : public TestePagina<PaginaOrbitas, Form::Orbitas> {
 protected:
     void SetUp() override
     {
-        TesteUi::SetUp();
-        pagina = qobject_cast<PaginaOrbitas*>(Pagina(Form::Orbitas));
-        ASSERT_NE(pagina, nullptr);
+        TestePagina::SetUp();
+        if (HasFatalFailure())
+            return;
         pagina->show();
         tabela = Achar<QTableWidget>(pagina, "TabelaOrbita");
         relogio = Achar<QTimer>(pagina, "Timer1");
-        imagem = pagina->Janela()->Imagem();
-    }
-    void Texto(const char* campo, const char* texto)
-    {
-        Achar<QLineEdit>(pagina, campo)->setText(QString::fromUtf8(texto));
     }
     void Clicar(const char* botao, int vezes = 1)
     {
@@ -57,27 +52,19 @@ protected:
         return item ? item->text() : QString();
     }
     QString Mensagem() { return Achar<QLabel>(pagina, "LabelFuga")->text(); }
-    void Premir(QPoint p)
-    {
-        const QPointF onde = imagem->contentsRect().topLeft() + p;
-        QMouseEvent e(QEvent::MouseButtonPress, onde, imagem->mapToGlobal(onde), Qt::LeftButton,
-                      Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(imagem, &e);
-    }
+    void Premir(QPoint p) { Rato(QEvent::MouseButtonPress, p, Qt::LeftButton, Qt::LeftButton); }
     // Whether the picture has colour `cor` within a pixel of (x, y).
     bool CorPerto(int x, int y, QRgb cor) const
     {
         for (int dy = -1; dy <= 1; ++dy)
             for (int dx = -1; dx <= 1; ++dx)
-                if (imagem->Imagem().pixel(x + dx, y + dy) == cor)
+                if (Pixel(x + dx, y + dy) == cor)
                     return true;
         return false;
     }
 
-    PaginaOrbitas* pagina = nullptr;
     QTableWidget* tabela = nullptr;
     QTimer* relogio = nullptr;
-    ControloImagem* imagem = nullptr;
 };
 
 TEST_F(PaginaDeOrbitas, TabelaEMensagemDasOrbitasDaPagina4)

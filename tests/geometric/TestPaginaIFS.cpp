@@ -7,7 +7,7 @@
 #include "geometric/PaginaIFS.h"
 #include "geometric/SistemaIFS.h"
 #include "interp/Aleatorio.h"
-#include "support/PlataformaGravadora.h"
+#include "support/TestePagina.h"
 
 #include <QGroupBox>
 #include <QLineEdit>
@@ -23,41 +23,34 @@ namespace {
 
 std::uint64_t RelogioFixo() { return 20261123; }
 
-class IFS : public TesteUi {
+class IFS : public TestePagina<PaginaIFS, Form::IFS> {
 protected:
     void SetUp() override
     {
-        TesteUi::SetUp();
         DefinirRelogioAleatorio(RelogioFixo);
-        pagina = qobject_cast<PaginaIFS*>(Pagina(Form::IFS));
-        ASSERT_NE(pagina, nullptr);
+        TestePagina::SetUp();
+        if (HasFatalFailure())
+            return;
         pagina->show();
-        imagem1 = pagina->Janela()->Imagem();
         imagem2 = pagina->Imagem2();
     }
     void TearDown() override
     {
         DefinirRelogioAleatorio(nullptr);
-        TesteUi::TearDown();
+        TestePagina::TearDown();
     }
-    void Iteracoes(const char* texto)
-    {
-        Achar<QLineEdit>(pagina, "NumIteraçõesIFS")->setText(QString::fromUtf8(texto));
-    }
-    void Premir(const char* botao) { Achar<QPushButton>(pagina, botao)->click(); }
+    void Iteracoes(const char* texto) { Texto("NumIteraçõesIFS", texto); }
     // The pixels of Picture1 other than its background.
     int Desenhados() const
     {
-        const QImage& img = imagem1->Imagem();
+        const QImage& img = imagem->Imagem();
         int n = 0;
         for (int y = 0; y < img.height(); ++y)
             for (int x = 0; x < img.width(); ++x)
-                n += img.pixel(x, y) != imagem1->CorFundo();
+                n += img.pixel(x, y) != imagem->CorFundo();
         return n;
     }
 
-    PaginaIFS* pagina = nullptr;
-    ControloImagem* imagem1 = nullptr;
     ControloImagem* imagem2 = nullptr;
 };
 
@@ -91,7 +84,7 @@ TEST_F(IFS, ContagemDoCampoNumIteracoes)
             EXPECT_EQ(sistema->mensagens[0].texto, QString::fromUtf8(c.texto));
             EXPECT_EQ(sistema->mensagens[0].icone, IconeMensagem::Informacao);
         }
-        EXPECT_TRUE(imagem1->isVisible());
+        EXPECT_TRUE(imagem->isVisible());
         EXPECT_FALSE(imagem2->isVisible());
     }
 }
@@ -112,7 +105,7 @@ TEST_F(IFS, PontosChegamAPicture2SemCederAoSistema)
         }
     } filtro;
     filtro.aoPintar = [&] {
-        pinturas.push_back({imagem1->isVisible(), sistema->cursorEspera,
+        pinturas.push_back({imagem->isVisible(), sistema->cursorEspera,
                             Achar<QPushButton>(pagina, "ApagarGráfico")->isEnabled()});
     };
     ASSERT_TRUE(QTest::qWaitForWindowExposed(pagina));
@@ -130,25 +123,25 @@ TEST_F(IFS, PontosChegamAPicture2SemCederAoSistema)
     }
     EXPECT_EQ(sistema->cedencias, 0);
     EXPECT_FALSE(sistema->cursorEspera);
-    EXPECT_TRUE(imagem1->isVisible());
+    EXPECT_TRUE(imagem->isVisible());
     EXPECT_FALSE(imagem2->isVisible());
     // Picture2 held this drawing's points, the same as Picture1.
-    EXPECT_EQ(imagem2->Imagem(), imagem1->Imagem());
+    EXPECT_EQ(imagem2->Imagem(), imagem->Imagem());
 }
 
 TEST_F(IFS, SistemasSobrepostosAteApagarOuCorFundo)
 {
     Iteracoes("20000");
     Premir("TriânguloSpier");
-    const QImage primeiro = imagem1->Imagem();
+    const QImage primeiro = imagem->Imagem();
     const int n1 = Desenhados();
     Premir("ÁrvoreNatal");
-    const QImage ambos = imagem1->Imagem();
+    const QImage ambos = imagem->Imagem();
     // Every point of the triangle is still there, and the tree added its own.
     int perdidos = 0;
     for (int y = 0; y < primeiro.height(); ++y)
         for (int x = 0; x < primeiro.width(); ++x)
-            perdidos += primeiro.pixel(x, y) != imagem1->CorFundo() && ambos.pixel(x, y) != primeiro.pixel(x, y);
+            perdidos += primeiro.pixel(x, y) != imagem->CorFundo() && ambos.pixel(x, y) != primeiro.pixel(x, y);
     EXPECT_EQ(perdidos, 0);
     EXPECT_GT(Desenhados(), n1 + 1000);
     // Picture2 showed the tree alone.
@@ -166,7 +159,7 @@ TEST_F(IFS, SistemasSobrepostosAteApagarOuCorFundo)
         if (escolhida)
             sistema->coresEscolhidas.push_back(verde);
         Premir("CorFundo");
-        for (ControloImagem* imagem : {imagem1, imagem2}) {
+        for (ControloImagem* imagem : {imagem, imagem2}) {
             EXPECT_EQ(imagem->CorFundo(), verde.rgb());
             QImage cheia(imagem->Imagem().size(), imagem->Imagem().format());
             cheia.fill(verde.rgb());
@@ -192,11 +185,11 @@ TEST_F(IFS, CorImagemNosPontosSeguintes)
         Premir("CorGráfico");
         Premir("ApagarGráfico");
         Premir("CavaloMarinho");
-        const QImage& img = imagem1->Imagem();
+        const QImage& img = imagem->Imagem();
         int certos = 0, outros = 0;
         for (int y = 0; y < img.height(); ++y)
             for (int x = 0; x < img.width(); ++x)
-                if (img.pixel(x, y) != imagem1->CorFundo())
+                if (img.pixel(x, y) != imagem->CorFundo())
                     (img.pixel(x, y) == p.esperada ? certos : outros)++;
         EXPECT_GT(certos, 1000) << (p.escolha ? p.escolha : "cancelled");
         EXPECT_EQ(outros, 0) << (p.escolha ? p.escolha : "cancelled");
@@ -209,11 +202,11 @@ TEST_F(IFS, DuasVezesNoMesmoInstanteDesenhosDiferentes)
     // its own, so the same system drawn twice lands on different pixels.
     Iteracoes("400");
     Premir("FetoBarnsley");
-    const QImage primeiro = imagem1->Imagem();
+    const QImage primeiro = imagem->Imagem();
     Premir("ApagarGráfico");
     Premir("FetoBarnsley");
     EXPECT_GT(Desenhados(), 200);
-    EXPECT_NE(imagem1->Imagem(), primeiro);
+    EXPECT_NE(imagem->Imagem(), primeiro);
 }
 
 TEST_F(IFS, PontosDaCorDoFundoApagamOsAnteriores)
@@ -223,11 +216,11 @@ TEST_F(IFS, PontosDaCorDoFundoApagamOsAnteriores)
     // triangle: drawn in the background's colour, it rubs out the points beneath it on
     // Picture1 and nothing else.
     const auto contar = [&](bool abaixo) {
-        const QImage& img = imagem1->Imagem();
+        const QImage& img = imagem->Imagem();
         int n = 0;
         for (int y = 0; y < img.height(); ++y)
             for (int x = 0; x < img.width(); ++x)
-                if ((abaixo ? y > x + 2 : y < x - 2) && img.pixel(x, y) != imagem1->CorFundo())
+                if ((abaixo ? y > x + 2 : y < x - 2) && img.pixel(x, y) != imagem->CorFundo())
                     ++n;
         return n;
     };
@@ -266,12 +259,12 @@ TEST_F(IFS, ImagemRedimensionadaRecebeODesenhoInteiro)
     Achar<QScrollBar>(pagina, "VScroll1")->setValue(200);
     Iteracoes("100000");
     Premir("TriânguloSpier");
-    ASSERT_EQ(imagem1->Imagem().size(), QSize(300, 200));
+    ASSERT_EQ(imagem->Imagem().size(), QSize(300, 200));
     ASSERT_EQ(imagem2->Imagem().size(), QSize(300, 200));
     const auto aceso = [&](int x, int y) {
         for (int dy = -1; dy <= 1; ++dy)
             for (int dx = -1; dx <= 1; ++dx)
-                if (imagem1->Imagem().pixel(x + dx, y + dy) != imagem1->CorFundo())
+                if (imagem->Imagem().pixel(x + dx, y + dy) != imagem->CorFundo())
                     return true;
         return false;
     };
@@ -315,11 +308,11 @@ TEST_F(IFS, CadaBotaoDesenhaOSeuSistema)
 
             Premir("ApagarGráfico");
             b->click();
-            const QImage& img = imagem1->Imagem();
+            const QImage& img = imagem->Imagem();
             int dentro = 0, fora = 0;
             for (int y = 0; y < img.height(); ++y)
                 for (int x = 0; x < img.width(); ++x)
-                    if (img.pixel(x, y) != imagem1->CorFundo())
+                    if (img.pixel(x, y) != imagem->CorFundo())
                         (perto(x, y) ? dentro : fora)++;
             EXPECT_GT(dentro, 300);
             EXPECT_LE(fora, dentro / 20);

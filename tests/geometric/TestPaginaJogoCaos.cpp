@@ -7,7 +7,7 @@
 #include "frame/JanelaDesenho.h"
 #include "geometric/PaginaJogoCaos.h"
 #include "interp/Aleatorio.h"
-#include "support/PlataformaGravadora.h"
+#include "support/TestePagina.h"
 
 #include <QAction>
 #include <QLabel>
@@ -34,33 +34,27 @@ const char* const kSemFigura[4] = {
     "Deve desenhar primeiro o quadrado.", "Deve fazer primeiro um desenho.",
 };
 
-class JogoCaosPagina : public TesteUi {
+class JogoCaosPagina : public TestePagina<PaginaJogoCaos, Form::JogoCaos> {
 protected:
     void SetUp() override
     {
-        TesteUi::SetUp();
         // A clock that never moves: the game still reseeds before every step.
         DefinirRelogioAleatorio(RelogioParado);
-        pagina = qobject_cast<PaginaJogoCaos*>(Pagina(Form::JogoCaos));
-        ASSERT_NE(pagina, nullptr);
-        pagina->show();
-        imagem = pagina->Janela()->Imagem();
+        TestePagina::SetUp();
+        if (!HasFatalFailure())
+            pagina->show();
     }
     void TearDown() override
     {
         DefinirRelogioAleatorio(nullptr);
-        TesteUi::TearDown();
+        TestePagina::TearDown();
     }
-    void Premir(const char* nome) { Achar<QPushButton>(pagina, nome)->click(); }
     QString Texto(const char* rotulo) { return Achar<QLabel>(pagina, rotulo)->text(); }
     // The picture maps (−1, 1)–(1, −1) onto 628 x 628 pixels.
     QRgb Cor(double x, double y) const
     {
         return imagem->Imagem().pixel(qRound((x + 1) * 314), qRound((1 - y) * 314)) & 0xFFFFFF;
     }
-
-    PaginaJogoCaos* pagina = nullptr;
-    ControloImagem* imagem = nullptr;
 };
 
 // Each message with its own title (the game's in lower case), its icon, and no drawing.

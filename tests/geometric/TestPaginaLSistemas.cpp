@@ -7,7 +7,7 @@
 #include "frame/JanelaDesenho.h"
 #include "geometric/CaixaTextoLongo.h"
 #include "geometric/PaginaLSistemas.h"
-#include "support/PlataformaGravadora.h"
+#include "support/TestePagina.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -23,39 +23,32 @@ namespace {
 
 const QRgb kAzulClaro = qRgb(0, 0, 255);  // colour 9 of the 16-colour palette
 
-class LSistemas : public TesteUi {
+class LSistemas : public TestePagina<PaginaLSistemas, Form::LSistemas> {
 protected:
     void SetUp() override
     {
-        TesteUi::SetUp();
-        pagina = qobject_cast<PaginaLSistemas*>(Pagina(Form::LSistemas));
-        ASSERT_NE(pagina, nullptr);
-        imagem = pagina->Janela()->Imagem();
-        resultado = Achar<CaixaTextoLongo>(pagina, "Resultado");
-    }
-    QString Campo(const char* nome) { return Achar<QLineEdit>(pagina, nome)->text(); }
-    void Escrever(const char* nome, const char* texto)
-    {
-        Achar<QLineEdit>(pagina, nome)->setText(QString::fromUtf8(texto));
+        TestePagina::SetUp();
+        if (!HasFatalFailure())
+            resultado = Achar<CaixaTextoLongo>(pagina, "Resultado");
     }
     // The fields of a drawing: axiom, rule, passes, start, angles, initial step, reduction.
     void Definir(const char* axioma, const char* regra, const char* repete, const char* x = "100",
                  const char* y = "100", const char* mais = "90", const char* menos = "-90",
                  const char* inicio = "-10", const char* reducao = "1")
     {
-        Escrever("Axioma", axioma);
-        Escrever("Substituição", regra);
-        Escrever("Repete", repete);
-        Escrever("xbox", x);
-        Escrever("ybox", y);
-        Escrever("AngPos", mais);
-        Escrever("AngNeg", menos);
-        Escrever("Início", inicio);
-        Escrever("Redução", reducao);
+        Texto("Axioma", axioma);
+        Texto("Substituição", regra);
+        Texto("Repete", repete);
+        Texto("xbox", x);
+        Texto("ybox", y);
+        Texto("AngPos", mais);
+        Texto("AngNeg", menos);
+        Texto("Início", inicio);
+        Texto("Redução", reducao);
     }
-    void Desenhar() { Achar<QPushButton>(pagina, "Desenhar")->click(); }
+    void Desenhar() { Premir("Desenhar"); }
     QString Comprimento() { return Achar<QLabel>(pagina, "Label8")->text(); }
-    bool Azul(int x, int y) const { return imagem->Imagem().pixel(x, y) == kAzulClaro; }
+    bool Azul(int x, int y) const { return Pixel(x, y) == kAzulClaro; }
     int PixeisAzuis() const
     {
         int n = 0;
@@ -66,8 +59,6 @@ protected:
         return n;
     }
 
-    PaginaLSistemas* pagina = nullptr;
-    ControloImagem* imagem = nullptr;
     CaixaTextoLongo* resultado = nullptr;
 };
 
