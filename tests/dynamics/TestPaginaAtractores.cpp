@@ -6,7 +6,7 @@
 #include "dynamics/PaginaAtractores.h"
 #include "frame/ControloImagem.h"
 #include "frame/JanelaDesenho.h"
-#include "support/PlataformaGravadora.h"
+#include "support/TestePagina.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -28,31 +28,11 @@ namespace {
 const QRgb kBranco = qRgb(255, 255, 255);
 const QRgb kAzul = qRgb(0, 0, 128);
 
-class FormAtractores : public TesteUi {
+class FormAtractores : public TestePagina<PaginaAtractores, Form::Atractores> {
 protected:
-    void SetUp() override
-    {
-        TesteUi::SetUp();
-        pagina = qobject_cast<PaginaAtractores*>(Pagina(Form::Atractores));
-        ASSERT_NE(pagina, nullptr);
-        janela = pagina->Janela();
-        imagem = janela->Imagem();
-    }
-    QString Texto(const char* campo) { return Achar<QLineEdit>(pagina, campo)->text(); }
-    void Escrever(const char* campo, const char* texto)
-    {
-        Achar<QLineEdit>(pagina, campo)->setText(QString::fromUtf8(texto));
-    }
-    void Janela(const char* x0, const char* x1, const char* y0, const char* y1)
-    {
-        Escrever("Xmínimo", x0);
-        Escrever("Xmáximo", x1);
-        Escrever("Ymínimo", y0);
-        Escrever("Ymáximo", y1);
-    }
     std::vector<QString> Limites()
     {
-        return {Texto("Xmínimo"), Texto("Xmáximo"), Texto("Ymínimo"), Texto("Ymáximo")};
+        return {Campo("Xmínimo"), Campo("Xmáximo"), Campo("Ymínimo"), Campo("Ymáximo")};
     }
     void Clicar(const char* nome) { Achar<QAbstractButton>(pagina, nome)->click(); }
     void Marcar(const char* nome, bool ligado)
@@ -70,10 +50,6 @@ protected:
                 n += (img.pixel(x, y) & 0xFFFFFF) != 0xFFFFFF;
         return n;
     }
-
-    PaginaAtractores* pagina = nullptr;
-    JanelaDesenho* janela = nullptr;
-    ControloImagem* imagem = nullptr;
 };
 
 TEST_F(FormAtractores, OpcaoEscreveJanelaEIteracoesDaTabela)
@@ -103,14 +79,14 @@ TEST_F(FormAtractores, OpcaoEscreveJanelaEIteracoesDaTabela)
                              "OpçõesTinkerbell", "OpçõesEstranhos", "OpçõesCaótico"};
     for (const Caso& c : casos) {
         SCOPED_TRACE(c.opcao);
-        Janela("7", "77", "-7", "-0.7");
-        Escrever("Iterações", "1234");
+        Vista("7", "77", "-7", "-0.7");
+        Texto("Iterações", "1234");
         Clicar(c.opcao);
         const std::vector<QString> esperada =
             c.janela.empty() ? std::vector<QString>{"7", "77", "-7", "-0.7"}
                              : std::vector<QString>{c.janela[0], c.janela[1], c.janela[2], c.janela[3]};
         EXPECT_EQ(Limites(), esperada);
-        EXPECT_EQ(Texto("Iterações"), c.iteracoes ? QString(c.iteracoes) : QStringLiteral("1234"));
+        EXPECT_EQ(Campo("Iterações"), c.iteracoes ? QString(c.iteracoes) : QStringLiteral("1234"));
         for (const char* q : quadros)
             EXPECT_EQ(Achar<QGroupBox>(pagina, q)->isVisibleTo(pagina), c.frame && QString(q) == c.frame) << q;
     }
@@ -159,17 +135,17 @@ TEST_F(FormAtractores, SpinnersEscrevemOsValoresPredefinidos)
                 const int n = volta == 0 ? static_cast<int>(s.linhas.size()) - k : k + 1;
                 SCOPED_TRACE(std::string(s.nome) + " set " + std::to_string(n));
                 for (const char* caixa : s.caixas)
-                    Escrever(caixa, "kept");
-                Escrever("Iterações", "1");
-                Janela("", "", "", "");
+                    Texto(caixa, "kept");
+                Texto("Iterações", "1");
+                Vista("", "", "", "");
                 if (spinner->value() == n)
                     spinner->setValue(n == 1 ? 2 : 1);
                 spinner->setValue(n);
                 const Linha& l = s.linhas[static_cast<std::size_t>(n - 1)];
                 for (std::size_t i = 0; i < s.caixas.size(); ++i)
-                    EXPECT_EQ(Texto(s.caixas[i]), l.parametros[i] ? l.parametros[i] : "kept")
+                    EXPECT_EQ(Campo(s.caixas[i]), l.parametros[i] ? l.parametros[i] : "kept")
                         << s.caixas[i];
-                EXPECT_EQ(Texto("Iterações"), l.iteracoes);
+                EXPECT_EQ(Campo("Iterações"), l.iteracoes);
                 EXPECT_EQ(Limites(), (std::vector<QString>{l.janela[0], l.janela[1], l.janela[2],
                                                            l.janela[3]}));
             }
@@ -184,25 +160,25 @@ TEST_F(FormAtractores, SpinnersDaVoltaEOsDeEstranhosEscolhemAVarianteQuadratica)
     spinner->setValue(6);
     spinner->stepBy(1);  // past the last set: the first again
     EXPECT_EQ(spinner->value(), 1);
-    EXPECT_EQ(Texto("CliffordA"), "-1.4");
+    EXPECT_EQ(Campo("CliffordA"), "-1.4");
 
     Clicar("Estranhos");
     Clicar("OpçãoEstranhos2");
     Achar<QSpinBox>(pagina, "UpDown4")->setValue(6);
     EXPECT_TRUE(Achar<QRadioButton>(pagina, "OpçãoEstranhos1")->isChecked());
     // Set 6 as given: a5 = 0.9, a6 = 0.3, a9 = 1, a11 = 0.5, a12 = 0.5, Xmáx 0.4, Ymáx 0.6.
-    EXPECT_EQ(Texto("EstranhoA5"), "0.9");
-    EXPECT_EQ(Texto("EstranhoA6"), "0.3");
-    EXPECT_EQ(Texto("EstranhoA9"), "1");
-    EXPECT_EQ(Texto("EstranhoA11"), "0.5");
-    EXPECT_EQ(Texto("EstranhoA12"), "0.5");
-    EXPECT_EQ(Texto("Xmáximo"), "0.4");
-    EXPECT_EQ(Texto("Ymáximo"), "0.6");
+    EXPECT_EQ(Campo("EstranhoA5"), "0.9");
+    EXPECT_EQ(Campo("EstranhoA6"), "0.3");
+    EXPECT_EQ(Campo("EstranhoA9"), "1");
+    EXPECT_EQ(Campo("EstranhoA11"), "0.5");
+    EXPECT_EQ(Campo("EstranhoA12"), "0.5");
+    EXPECT_EQ(Campo("Xmáximo"), "0.4");
+    EXPECT_EQ(Campo("Ymáximo"), "0.6");
     Achar<QSpinBox>(pagina, "UpDown4")->setValue(1);
     // Set 1: a2 = 0.1, a3 = -1, a4 = 0.6 in -1 … 1 x -1 … 1.
-    EXPECT_EQ(Texto("EstranhoA2"), "0.1");
-    EXPECT_EQ(Texto("EstranhoA3"), "-1");
-    EXPECT_EQ(Texto("EstranhoA4"), "0.6");
+    EXPECT_EQ(Campo("EstranhoA2"), "0.1");
+    EXPECT_EQ(Campo("EstranhoA3"), "-1");
+    EXPECT_EQ(Campo("EstranhoA4"), "0.6");
     EXPECT_EQ(Limites(), (std::vector<QString>{"-1", "1", "-1", "1"}));
 }
 
@@ -240,8 +216,8 @@ TEST_F(FormAtractores, ValidacaoPelaOrdemComAsMensagensDaPagina)
     for (const Caso& c : casos) {
         SCOPED_TRACE(std::string(c.janela[0]) + " " + c.janela[1] + " " + c.iteracoes);
         sistema->mensagens.clear();
-        Janela(c.janela[0], c.janela[1], c.janela[2], c.janela[3]);
-        Escrever("Iterações", c.iteracoes);
+        Vista(c.janela[0], c.janela[1], c.janela[2], c.janela[3]);
+        Texto("Iterações", c.iteracoes);
         Desenhar();
         if (!c.titulo) {
             EXPECT_TRUE(sistema->mensagens.empty());
@@ -275,8 +251,8 @@ TEST_F(FormAtractores, CadaDesenhoEsperaPelaSuaBarra)
     for (const Caso& c : casos) {
         SCOPED_TRACE(c.opcao);
         Clicar(c.opcao);
-        Escrever("Iterações", "5");
-        Escrever("KamLinhas", "1");
+        Texto("Iterações", "5");
+        Texto("KamLinhas", "1");
         sistema->sonos.clear();
         Desenhar();
         EXPECT_TRUE(janela->desenhado);
@@ -284,7 +260,7 @@ TEST_F(FormAtractores, CadaDesenhoEsperaPelaSuaBarra)
     }
     // A bar moved back to 0 during the drawing: no more waits from the next point.
     Clicar("Lorenz");
-    Escrever("Iterações", "6");
+    Texto("Iterações", "6");
     sistema->sonos.clear();
     sistema->aoDormir = [&](int vez) {
         if (vez == 2)
@@ -297,7 +273,7 @@ TEST_F(FormAtractores, CadaDesenhoEsperaPelaSuaBarra)
 TEST_F(FormAtractores, CaoticoCedeDepoisDeCadaPonto)
 {
     Clicar("Caótico");
-    Escrever("Iterações", "300");
+    Texto("Iterações", "300");
     sistema->cedencias = 0;
     Desenhar();
     EXPECT_EQ(sistema->cedencias, 300);
@@ -309,7 +285,7 @@ TEST_F(FormAtractores, PrimeiroPontoNoPixelDaEscala)
 {
     Clicar("Henon");
     Marcar("CopiarHenon", true);
-    Escrever("Iterações", "1");
+    Texto("Iterações", "1");
     struct Caso {
         bool grandes;
         int pontos;
@@ -353,7 +329,7 @@ TEST_F(FormAtractores, VerPontoMarcaSoNoEcra)
     Marcar("CopiarLorenz", true);
     Marcar("PontoLorenz", true);
     Barra("HScroll2", 1);
-    Escrever("Iterações", "40");
+    Texto("Iterações", "40");
     int diferentes = -1;
     sistema->aoDormir = [&](int vez) {
         if (vez != 20)
@@ -380,7 +356,7 @@ TEST_F(FormAtractores, AbandonarAMeioDeUmDesenhoLento)
 {
     Clicar("Lorenz");
     Barra("HScroll2", 50);
-    Escrever("Iterações", "1000");
+    Texto("Iterações", "1000");
     sistema->aoDormir = [&](int vez) {
         if (vez == 3) {
             EXPECT_FALSE(Achar<QPushButton>(pagina, "Desenhar")->isEnabled());
