@@ -243,10 +243,7 @@ TEST_F(Mandelbrot, ZoomEscreveOsLimitesEODesenhoSeguinteAmplia)
     Desenhar();
     Arrastar({50, 25}, {75, 75});
     // x = -2 + px * 3/100, y = 1.5 - py * 3/100
-    EXPECT_EQ(Achar<QLineEdit>(pagina, "Xmínimo")->text(), "-0.5");
-    EXPECT_EQ(Achar<QLineEdit>(pagina, "Xmáximo")->text(), "0.25");
-    EXPECT_EQ(Achar<QLineEdit>(pagina, "Ymínimo")->text(), "-0.75");
-    EXPECT_EQ(Achar<QLineEdit>(pagina, "Ymáximo")->text(), "0.75");
+    EXPECT_EQ(Limites(), (QStringList{"-0.5", "0.25", "-0.75", "0.75"}));
     Desenhar();
     EXPECT_DOUBLE_EQ(janela->xmin, -0.5);
     EXPECT_DOUBLE_EQ(janela->xmax, 0.25);
@@ -297,10 +294,7 @@ TEST_F(Mandelbrot, DesenhoRecusadoNaoDeixaAmpliar)
     Desenhar();
     ASSERT_EQ(sistema->UltimoTexto(), "Divisão por zero.");
     Arrastar({50, 25}, {75, 75});
-    EXPECT_EQ(Achar<QLineEdit>(pagina, "Xmínimo")->text(), "1/0");
-    EXPECT_EQ(Achar<QLineEdit>(pagina, "Xmáximo")->text(), "0.6");
-    EXPECT_EQ(Achar<QLineEdit>(pagina, "Ymínimo")->text(), "-1.3");
-    EXPECT_EQ(Achar<QLineEdit>(pagina, "Ymáximo")->text(), "1.3");
+    EXPECT_EQ(Limites(), (QStringList{"1/0", "0.6", "-1.3", "1.3"}));
 }
 
 }  // namespace

@@ -30,10 +30,6 @@ const QRgb kAzul = qRgb(0, 0, 128);
 
 class FormAtractores : public TestePagina<PaginaAtractores, Form::Atractores> {
 protected:
-    std::vector<QString> Limites()
-    {
-        return {Campo("Xmínimo"), Campo("Xmáximo"), Campo("Ymínimo"), Campo("Ymáximo")};
-    }
     void Clicar(const char* nome) { Achar<QAbstractButton>(pagina, nome)->click(); }
     void Marcar(const char* nome, bool ligado)
     {
@@ -82,9 +78,9 @@ TEST_F(FormAtractores, OpcaoEscreveJanelaEIteracoesDaTabela)
         Vista("7", "77", "-7", "-0.7");
         Texto("Iterações", "1234");
         Clicar(c.opcao);
-        const std::vector<QString> esperada =
-            c.janela.empty() ? std::vector<QString>{"7", "77", "-7", "-0.7"}
-                             : std::vector<QString>{c.janela[0], c.janela[1], c.janela[2], c.janela[3]};
+        const QStringList esperada =
+            c.janela.empty() ? QStringList{"7", "77", "-7", "-0.7"}
+                             : QStringList{c.janela[0], c.janela[1], c.janela[2], c.janela[3]};
         EXPECT_EQ(Limites(), esperada);
         EXPECT_EQ(Campo("Iterações"), c.iteracoes ? QString(c.iteracoes) : QStringLiteral("1234"));
         for (const char* q : quadros)
@@ -93,7 +89,7 @@ TEST_F(FormAtractores, OpcaoEscreveJanelaEIteracoesDaTabela)
     // "Estranhos" with its second variant chosen writes the wider window.
     Clicar("OpçãoEstranhos2");
     Clicar("Estranhos");
-    EXPECT_EQ(Limites(), (std::vector<QString>{"-2", "2", "-2", "2"}));
+    EXPECT_EQ(Limites(), (QStringList{"-2", "2", "-2", "2"}));
 }
 
 // The preset tables, row by row as the spinners write them (both directions write set n).
@@ -146,7 +142,7 @@ TEST_F(FormAtractores, SpinnersEscrevemOsValoresPredefinidos)
                     EXPECT_EQ(Campo(s.caixas[i]), l.parametros[i] ? l.parametros[i] : "kept")
                         << s.caixas[i];
                 EXPECT_EQ(Campo("Iterações"), l.iteracoes);
-                EXPECT_EQ(Limites(), (std::vector<QString>{l.janela[0], l.janela[1], l.janela[2],
+                EXPECT_EQ(Limites(), (QStringList{l.janela[0], l.janela[1], l.janela[2],
                                                            l.janela[3]}));
             }
         }
@@ -179,7 +175,7 @@ TEST_F(FormAtractores, SpinnersDaVoltaEOsDeEstranhosEscolhemAVarianteQuadratica)
     EXPECT_EQ(Campo("EstranhoA2"), "0.1");
     EXPECT_EQ(Campo("EstranhoA3"), "-1");
     EXPECT_EQ(Campo("EstranhoA4"), "0.6");
-    EXPECT_EQ(Limites(), (std::vector<QString>{"-1", "1", "-1", "1"}));
+    EXPECT_EQ(Limites(), (QStringList{"-1", "1", "-1", "1"}));
 }
 
 TEST_F(FormAtractores, ValidacaoPelaOrdemComAsMensagensDaPagina)

@@ -44,6 +44,8 @@ protected:
         Texto("Ymínimo", y0);
         Texto("Ymáximo", y1);
     }
+    // The four limit fields as they read now.
+    QStringList Limites() { return {Campo("Xmínimo"), Campo("Xmáximo"), Campo("Ymínimo"), Campo("Ymáximo")}; }
     void Escolher(const char* opcao) { Achar<QRadioButton>(pagina, opcao)->click(); }
     // A press of a drawing button; the recorder counts its yields from 1.
     void Premir(const char* botao)
