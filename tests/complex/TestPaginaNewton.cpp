@@ -195,6 +195,9 @@ TEST_F(Newton, VinteColoracoesNosPontosConhecidos)
         o.tabela(e);
         return QRgb(CorEntrada(e, (s + o.desvio) % 255));
     };
+    // A fresh page draws z = 1 (s = 1) in Fogo's entry 1, grey 60.
+    Desenhar();
+    EXPECT_EQ(Pixel(kColuna1, kLinhaEixo), Cinzento(60));
     for (const Opcao& o : opcoes) {
         Escolher(o.nome);
         Desenhar();
@@ -206,13 +209,6 @@ TEST_F(Newton, VinteColoracoesNosPontosConhecidos)
     Desenhar();
     EXPECT_EQ(Pixel(kColuna1, kLinhaEixo), qRgb(0, 0, 128));
     EXPECT_EQ(Pixel(kColuna2, kLinhaEixo), qRgb(128, 0, 128));
-}
-
-TEST_F(Newton, FogoAoAbrir)
-{
-    // A fresh page draws z = 1 (s = 1) in Fogo's entry 1, grey 60.
-    Desenhar();
-    EXPECT_EQ(Pixel(kColuna1, kLinhaEixo), Cinzento(60));
 }
 
 TEST_F(Newton, InversaoSemSomarOCentroESaltandoOCentro)
