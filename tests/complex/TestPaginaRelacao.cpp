@@ -7,7 +7,7 @@
 #include "frame/ControloImagem.h"
 #include "frame/EsquemaCores.h"
 #include "frame/JanelaDesenho.h"
-#include "support/PlataformaGravadora.h"
+#include "support/TestePagina.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -49,11 +49,7 @@ protected:
     // A mouse button pressed on a pixel of the Mandelbrot picture.
     void Clicar(QPoint p)
     {
-        ControloImagem* imagem = Imagem("Picture1");
-        const QPointF onde = imagem->contentsRect().topLeft() + p;
-        QMouseEvent e(QEvent::MouseButtonPress, onde, imagem->mapToGlobal(onde), Qt::LeftButton,
-                      Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(imagem, &e);
+        Rato(Imagem("Picture1"), QEvent::MouseButtonPress, p, Qt::LeftButton, Qt::LeftButton);
     }
 
     PaginaRelacao* pagina = nullptr;

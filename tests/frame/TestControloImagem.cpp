@@ -1,8 +1,8 @@
 // The picture control: two layers, invert mode, scales and mouse positions.
 
 #include "frame/ControloImagem.h"
+#include "support/TestePagina.h"
 
-#include <QMouseEvent>
 #include <QSignalSpy>
 
 #include <gtest/gtest.h>
@@ -79,11 +79,7 @@ TEST(ControloImagem, EscalaDoUtilizadorComYParaCima)
     EXPECT_EQ(imagem.Imagem().pixel(0, 597), qRgb(7, 7, 7));
 
     QSignalSpy premido(&imagem, &ControloImagem::RatoPremido);
-    const QPoint canto = imagem.contentsRect().topLeft();
-    QMouseEvent evento(QEvent::MouseButtonPress, QPointF(canto + QPoint(314, 157)),
-                       QPointF(canto + QPoint(314, 157)), Qt::LeftButton, Qt::LeftButton,
-                       Qt::NoModifier);
-    QCoreApplication::sendEvent(&imagem, &evento);
+    teste::Rato(&imagem, QEvent::MouseButtonPress, {314, 157}, Qt::LeftButton, Qt::LeftButton);
     ASSERT_EQ(premido.count(), 1);
     EXPECT_DOUBLE_EQ(premido[0][1].toDouble(), -2 + 314 * 3.0 / 628);
     EXPECT_DOUBLE_EQ(premido[0][2].toDouble(), 1 - 157 * 2.0 / 628);

@@ -3,7 +3,7 @@
 #include "frame/ControloImagem.h"
 #include "frame/JanelaDesenho.h"
 #include "frame/SessaoDesenho.h"
-#include "support/PlataformaGravadora.h"
+#include "support/TestePagina.h"
 
 #include <QDir>
 #include <QFile>
@@ -62,10 +62,7 @@ protected:
     }
     void Rato(QEvent::Type tipo, QPoint pixel, Qt::MouseButton botao, Qt::MouseButtons botoes)
     {
-        ControloImagem* imagem = janela->Imagem();
-        const QPointF p = imagem->contentsRect().topLeft() + pixel;
-        QMouseEvent evento(tipo, p, imagem->mapToGlobal(p), botao, botoes, Qt::NoModifier);
-        QCoreApplication::sendEvent(imagem, &evento);
+        teste::Rato(janela->Imagem(), tipo, pixel, botao, botoes);
     }
     void Arrastar(QPoint de, QPoint para)
     {

@@ -8,7 +8,7 @@
 #include "frame/DesenhoColunas.h"
 #include "frame/JanelaDesenho.h"
 #include "frame/SessaoDesenho.h"
-#include "support/PlataformaGravadora.h"
+#include "support/TestePagina.h"
 
 #include <QGroupBox>
 #include <QLineEdit>
@@ -48,9 +48,7 @@ protected:
     }
     void Rato(QEvent::Type tipo, QPoint p, Qt::MouseButton botao, Qt::MouseButtons botoes)
     {
-        const QPointF onde = imagem->contentsRect().topLeft() + p;
-        QMouseEvent e(tipo, onde, imagem->mapToGlobal(onde), botao, botoes, Qt::NoModifier);
-        QCoreApplication::sendEvent(imagem, &e);
+        teste::Rato(imagem, tipo, p, botao, botoes);
     }
     int Acesos(int y) const
     {

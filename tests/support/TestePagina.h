@@ -16,6 +16,15 @@
 
 namespace lumerina::teste {
 
+// A mouse event at a pixel of a picture.
+inline void Rato(QWidget* imagem, QEvent::Type tipo, QPoint p, Qt::MouseButton botao,
+                 Qt::MouseButtons botoes)
+{
+    const QPointF onde = imagem->contentsRect().topLeft() + p;
+    QMouseEvent e(tipo, onde, imagem->mapToGlobal(onde), botao, botoes, Qt::NoModifier);
+    QCoreApplication::sendEvent(imagem, &e);
+}
+
 template <class P, int N> class TestePagina : public TesteUi {
 protected:
     void SetUp() override
@@ -54,12 +63,9 @@ protected:
         Achar<QPushButton>(pagina, botao)->click();
     }
     QRgb Pixel(int x, int y) const { return imagem->Imagem().pixel(x, y); }
-    // A mouse event at a pixel of the picture.
     void Rato(QEvent::Type tipo, QPoint p, Qt::MouseButton botao, Qt::MouseButtons botoes)
     {
-        const QPointF onde = imagem->contentsRect().topLeft() + p;
-        QMouseEvent e(tipo, onde, imagem->mapToGlobal(onde), botao, botoes, Qt::NoModifier);
-        QCoreApplication::sendEvent(imagem, &e);
+        teste::Rato(imagem, tipo, p, botao, botoes);
     }
     // A left-button drag between two pixels of the picture.
     void Arrastar(QPoint de, QPoint ate)
