@@ -140,15 +140,5 @@ TEST(JogoCaos, FrequenciaDosVerticesComRelogioLento)
     }
 }
 
-TEST(JogoCaos, DesenhoDoUtilizadorParaNos8500Pontos)
-{
-    FiguraCaos f;
-    for (int i = 0; i < kMaxPontosUtilizador; ++i)
-        ASSERT_TRUE(f.Acrescentar({i * 1e-4, 0}));
-    EXPECT_FALSE(f.Acrescentar({0.5, 0.5}));
-    EXPECT_EQ(f.n, 8500);
-    EXPECT_EQ(f.x[8499], 0.8499);
-}
-
 }  // namespace
 }  // namespace lumerina

@@ -159,11 +159,11 @@ TEST_F(IFS, SistemasSobrepostosAteApagarOuCorFundo)
         if (escolhida)
             sistema->coresEscolhidas.push_back(verde);
         Premir("CorFundo");
-        for (ControloImagem* imagem : {imagem, imagem2}) {
-            EXPECT_EQ(imagem->CorFundo(), verde.rgb());
-            QImage cheia(imagem->Imagem().size(), imagem->Imagem().format());
+        for (ControloImagem* im : {imagem, imagem2}) {
+            EXPECT_EQ(im->CorFundo(), verde.rgb());
+            QImage cheia(im->Imagem().size(), im->Imagem().format());
             cheia.fill(verde.rgb());
-            EXPECT_EQ(imagem->Imagem(), cheia) << imagem->objectName().toStdString();
+            EXPECT_EQ(im->Imagem(), cheia) << im->objectName().toStdString();
         }
     }
 }
