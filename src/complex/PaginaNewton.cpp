@@ -64,10 +64,8 @@ PaginaNewton::PaginaNewton(const DescricaoPagina& descricao, QWidget* pai)
     QWidget* area = Area();
     ColocarTitulo();
 
-    JanelaDesenho::Opcoes opcoesJanela;
-    const char* const rotulos[4] = {"Xmin =", "Xmax =", "Ymin =", "Ymax ="};
-    std::copy(std::begin(rotulos), std::end(rotulos), opcoesJanela.rotulosLimites);
-    janela_ = new JanelaDesenho(this, area, QPoint(8, 8), opcoesJanela);
+    janela_ = new JanelaDesenho(this, area, QPoint(8, 8),
+                                {.rotulosLimites = {"Xmin =", "Xmax =", "Ymin =", "Ymax ="}});
 
     QGroupBox* equacao = Quadro(area, "Equação", {kPainelX, 32, 166, 58});
     Rotulo(equacao, "zⁿ − 1 = 0,  n =", {10, 26, 96, 22});

@@ -83,10 +83,7 @@ PaginaOrbitas::PaginaOrbitas(const DescricaoPagina& descricao, QWidget* pai)
     QWidget* area = Area();
     ColocarTitulo();
 
-    JanelaDesenho::Opcoes opcoes;
-    opcoes.limites = false;
-    opcoes.barras = false;
-    janela_ = new JanelaDesenho(this, area, QPoint(8, 8), opcoes);
+    janela_ = new JanelaDesenho(this, area, QPoint(8, 8), {.limites = false, .barras = false});
 
     QGroupBox* iteracao = Quadro(area, "Iteração", {kPainelX, 32, kPainelLargura, 94});
     modo_.Adicionar(iteracao, {

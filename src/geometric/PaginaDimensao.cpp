@@ -65,10 +65,7 @@ PaginaDimensao::PaginaDimensao(const DescricaoPagina& descricao, QWidget* pai)
     QWidget* area = Area();
     ColocarTitulo();
 
-    JanelaDesenho::Opcoes opcoes;
-    opcoes.limites = false;
-    opcoes.barras = false;
-    janela_ = new JanelaDesenho(this, area, QPoint(8, 8), opcoes);
+    janela_ = new JanelaDesenho(this, area, QPoint(8, 8), {.limites = false, .barras = false});
 
     QGroupBox* metodo = Quadro(area, "Dimensão", {kPainelX, 32, kPainelLargura, 52});
     metodo_.Adicionar(metodo, {

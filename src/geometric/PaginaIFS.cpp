@@ -120,10 +120,8 @@ PaginaIFS::PaginaIFS(const DescricaoPagina& descricao, QWidget* pai) : PaginaBas
     Titulo()->setObjectName(QStringLiteral("Label1"));
     Titulo()->setGeometry(kPainelX, 2, kPainelLargura, 28);
 
-    JanelaDesenho::Opcoes opcoes;
-    opcoes.largura = opcoes.altura = kLado;
-    opcoes.limites = false;
-    janela_ = new JanelaDesenho(this, area, QPoint(8, 8), opcoes);
+    janela_ = new JanelaDesenho(this, area, QPoint(8, 8),
+                                {.largura = kLado, .altura = kLado, .limites = false});
 
     // Picture2 lies exactly over Picture1 and is shown only while a system is drawn.
     imagem2_ = new ControloImagem(area, kLado, kLado);

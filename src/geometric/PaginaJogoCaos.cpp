@@ -64,10 +64,7 @@ PaginaJogoCaos::PaginaJogoCaos(const DescricaoPagina& descricao, QWidget* pai)
     QWidget* area = Area();
     ColocarTitulo();
 
-    JanelaDesenho::Opcoes opcoes;
-    opcoes.limites = false;
-    opcoes.barras = false;
-    janela_ = new JanelaDesenho(this, area, QPoint(8, 8), opcoes);
+    janela_ = new JanelaDesenho(this, area, QPoint(8, 8), {.limites = false, .barras = false});
     ControloImagem* imagem = janela_->Imagem();
     connect(imagem, &ControloImagem::RatoPremido, this, &PaginaJogoCaos::RatoPremido);
     connect(imagem, &ControloImagem::RatoMovido, this, &PaginaJogoCaos::RatoMovido);

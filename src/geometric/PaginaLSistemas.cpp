@@ -88,10 +88,7 @@ PaginaLSistemas::PaginaLSistemas(const DescricaoPagina& descricao, QWidget* pai)
     ColocarTitulo();
     Titulo()->setObjectName(QStringLiteral("Label3"));
 
-    JanelaDesenho::Opcoes opcoes;
-    opcoes.limites = false;
-    opcoes.barras = false;
-    janela_ = new JanelaDesenho(this, area, QPoint(8, 8), opcoes);
+    janela_ = new JanelaDesenho(this, area, QPoint(8, 8), {.limites = false, .barras = false});
     // On this page the clear button is plain "Apagar".
     janela_->Apagar()->setObjectName(QStringLiteral("Apagar"));
 

@@ -57,9 +57,7 @@ PaginaTransformacoes::PaginaTransformacoes(const DescricaoPagina& descricao, QWi
     QWidget* area = Area();
     ColocarTitulo(kPainelX, kPainelLargura, 26);
 
-    JanelaDesenho::Opcoes opcoes;
-    opcoes.barras = false;
-    janela_ = new JanelaDesenho(this, area, QPoint(8, 8), opcoes);
+    janela_ = new JanelaDesenho(this, area, QPoint(8, 8), {.barras = false});
 
     QGroupBox* figura = Quadro(area, "Figura", {kPainelX, 28, kPainelLargura, 44});
     figura_.Adicionar(figura, {
