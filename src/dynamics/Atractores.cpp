@@ -116,6 +116,20 @@ void Correr(const SenosDoPasso& k, double& x, double& y, Ponto* saida, int n,
 }
 #endif
 
+// The points of Peter de Jong or Clifford: by the vector sines where the C library has them
+// (four lanes when `quatroVias` and the processor allow), otherwise step by step.
+template <class A>
+void PontosPorSenos(A& atractor, Ponto* saida, int n, bool quatroVias)
+{
+#ifdef LUMERINA_MVEC
+    Correr(Senos(atractor), atractor.x, atractor.y, saida, n, quatroVias);
+#else
+    (void)quatroVias;
+    for (int k = 0; k < n; ++k)
+        saida[k] = atractor.Passo();
+#endif
+}
+
 }  // namespace
 
 Ponto Lorenz::Passo()
@@ -209,24 +223,9 @@ Ponto DeJong::Passo()
     return {x, y};
 }
 
-void DeJong::Pontos(Ponto* saida, int n)
-{
-#ifdef LUMERINA_MVEC
-    Correr(Senos(*this), x, y, saida, n);
-#else
-    for (int k = 0; k < n; ++k)
-        saida[k] = Passo();
-#endif
-}
+void DeJong::Pontos(Ponto* saida, int n) { PontosPorSenos(*this, saida, n, true); }
 
-void DeJong::PontosDuasVias(Ponto* saida, int n)
-{
-#ifdef LUMERINA_MVEC
-    Correr(Senos(*this), x, y, saida, n, false);
-#else
-    Pontos(saida, n);
-#endif
-}
+void DeJong::PontosDuasVias(Ponto* saida, int n) { PontosPorSenos(*this, saida, n, false); }
 
 Ponto Clifford::Passo()
 {
@@ -236,24 +235,9 @@ Ponto Clifford::Passo()
     return {x, y};
 }
 
-void Clifford::Pontos(Ponto* saida, int n)
-{
-#ifdef LUMERINA_MVEC
-    Correr(Senos(*this), x, y, saida, n);
-#else
-    for (int k = 0; k < n; ++k)
-        saida[k] = Passo();
-#endif
-}
+void Clifford::Pontos(Ponto* saida, int n) { PontosPorSenos(*this, saida, n, true); }
 
-void Clifford::PontosDuasVias(Ponto* saida, int n)
-{
-#ifdef LUMERINA_MVEC
-    Correr(Senos(*this), x, y, saida, n, false);
-#else
-    Pontos(saida, n);
-#endif
-}
+void Clifford::PontosDuasVias(Ponto* saida, int n) { PontosPorSenos(*this, saida, n, false); }
 
 Ponto Tinkerbell::Passo()
 {
