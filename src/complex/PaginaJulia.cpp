@@ -181,11 +181,7 @@ PaginaJulia::PaginaJulia(const DescricaoPagina& descricao, QWidget* pai)
 
     QGroupBox* opcoes = janela_->QuadroOpcoes();
     opcoes->setGeometry(kPainelX, 514, kPainelLargura, 62);
-    int x = 8;
-    for (QPushButton* b : {janela_->Guardar(), janela_->Copiar(), janela_->Apagar()}) {
-        b->setGeometry(x, 24, 62, 28);
-        x += 64;
-    }
+    const int x = janela_->DisporBotoes(8, 62, 64);
     janela_->LigarDesenho(Botao(opcoes, "Desenhar", "Desenhar", {x, 24, 70, 28}),
                           [this] { CarregarDesenhar(); });
     connect(Botao(opcoes, "Sair", "Sair", {x + 72, 24, 54, 28}), &QPushButton::clicked, this,

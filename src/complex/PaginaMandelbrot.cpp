@@ -71,11 +71,7 @@ PaginaMandelbrot::PaginaMandelbrot(const DescricaoPagina& descricao, QWidget* pa
 
     QGroupBox* opcoes = janela_->QuadroOpcoes();
     opcoes->setGeometry(kPainelX, 556, kPainelLargura, 62);
-    for (QPushButton* b : {janela_->Guardar(), janela_->Copiar(), janela_->Apagar()})
-        b->resize(76, 28);
-    janela_->Guardar()->move(8, 24);
-    janela_->Copiar()->move(88, 24);
-    janela_->Apagar()->move(168, 24);
+    janela_->DisporBotoes(8, 76, 80);
     janela_->LigarDesenho(Botao(opcoes, "DesenharMandelbrot", " Desenhar", {248, 24, 80, 28}),
                           [this] { CarregarDesenhar(); });
 

@@ -128,11 +128,7 @@ PaginaNewton::PaginaNewton(const DescricaoPagina& descricao, QWidget* pai)
 
     QGroupBox* opcoes = janela_->QuadroOpcoes();
     opcoes->setGeometry(kPainelX, 478, kPainelLargura, 62);
-    for (QPushButton* b : {janela_->Guardar(), janela_->Copiar(), janela_->Apagar()})
-        b->resize(96, 28);
-    janela_->Guardar()->move(10, 24);
-    janela_->Copiar()->move(120, 24);
-    janela_->Apagar()->move(230, 24);
+    janela_->DisporBotoes(10, 96, 110);
 
     // The buttons stay live during a drawing on this page: nothing is registered to be
     // disabled, and a click while a drawing runs starts nothing.

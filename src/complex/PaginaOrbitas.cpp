@@ -135,11 +135,7 @@ PaginaOrbitas::PaginaOrbitas(const DescricaoPagina& descricao, QWidget* pai)
 
     QGroupBox* opcoesGrafico = janela_->QuadroOpcoes();
     opcoesGrafico->setGeometry(kPainelX, 556, kPainelLargura, 62);
-    for (QPushButton* b : {janela_->Guardar(), janela_->Copiar(), janela_->Apagar()})
-        b->resize(100, 28);
-    janela_->Guardar()->move(8, 24);
-    janela_->Copiar()->move(118, 24);
-    janela_->Apagar()->move(228, 24);
+    janela_->DisporBotoes(8, 100, 110);
 
     // The automatic steps: the one timer that drives work in the program.
     relogio_ = new QTimer(this);

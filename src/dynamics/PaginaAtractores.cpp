@@ -104,11 +104,7 @@ PaginaAtractores::PaginaAtractores(const DescricaoPagina& descricao, QWidget* pa
     janela_->QuadroDimensao()->setGeometry(kPainelX, 528, kPainelLargura, 46);
     QGroupBox* opcoes = janela_->QuadroOpcoes();
     opcoes->setGeometry(kPainelX, 578, kPainelLargura, 62);
-    for (QPushButton* b : {janela_->Guardar(), janela_->Copiar(), janela_->Apagar()})
-        b->resize(76, 28);
-    janela_->Guardar()->move(8, 24);
-    janela_->Copiar()->move(88, 24);
-    janela_->Apagar()->move(168, 24);
+    janela_->DisporBotoes(8, 76, 80);
     janela_->LigarDesenho(Botao(opcoes, "Desenhar", "Desenhar", {248, 24, 80, 28}),
                           [this] { CarregarDesenhar(); });
 

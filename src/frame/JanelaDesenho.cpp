@@ -207,6 +207,15 @@ bool JanelaDesenho::ValidarLimites(const QString& titulo, bool testarYmaximo)
     return true;
 }
 
+int JanelaDesenho::DisporBotoes(int x, int largura, int passo)
+{
+    for (QPushButton* b : {guardar_, copiar_, apagar_}) {
+        b->setGeometry(x, 24, largura, 28);
+        x += passo;
+    }
+    return x;
+}
+
 void JanelaDesenho::LigarDesenho(QPushButton* botao, std::function<void()> desenhar)
 {
     botoesDesenho_.push_back(botao);

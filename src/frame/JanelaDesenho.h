@@ -70,6 +70,10 @@ public:
 
     QWidget* Pagina() const { return pagina_; }
 
+    // Guardar, Copiar and Apagar in a row in "Opções", `largura` wide, one every `passo`
+    // pixels from `x`; returns where a fourth button (the page's draw button) goes.
+    int DisporBotoes(int x, int largura, int passo);
+
     // A draw button of the page: a click (or Enter in a field) runs `desenhar` unless a
     // drawing is running anywhere, and a drawing disables it with Guardar/Copiar/Apagar.
     void LigarDesenho(QPushButton* botao, std::function<void()> desenhar);

@@ -128,11 +128,7 @@ PaginaDimensao::PaginaDimensao(const DescricaoPagina& descricao, QWidget* pai)
 
     QGroupBox* opcoesGrafico = janela_->QuadroOpcoes();
     opcoesGrafico->setGeometry(kPainelX, 556, kPainelLargura, 62);
-    for (QPushButton* b : {janela_->Guardar(), janela_->Copiar(), janela_->Apagar()})
-        b->resize(100, 28);
-    janela_->Guardar()->move(8, 24);
-    janela_->Copiar()->move(118, 24);
-    janela_->Apagar()->move(228, 24);
+    janela_->DisporBotoes(8, 100, 110);
 
     janela_->LigarDesenho(desenhar, [this] { DesenharFigura(); });
     LigarDesenho(medir, [this] { Medir(); });

@@ -140,11 +140,7 @@ PaginaLSistemas::PaginaLSistemas(const DescricaoPagina& descricao, QWidget* pai)
 
     QGroupBox* botoes = janela_->QuadroOpcoes();
     botoes->setGeometry(kPainelX, 572, kPainelLargura, 62);
-    for (QPushButton* b : {janela_->Guardar(), janela_->Copiar(), janela_->Apagar()})
-        b->resize(76, 28);
-    janela_->Guardar()->move(8, 24);
-    janela_->Copiar()->move(88, 24);
-    janela_->Apagar()->move(168, 24);
+    janela_->DisporBotoes(8, 76, 80);
     desenhar_ = Botao(botoes, "Desenhar", "Desenhar", {248, 24, 80, 28});
     janela_->LigarDesenho(desenhar_, [this] { Desenhar(); });
 
