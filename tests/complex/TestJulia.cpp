@@ -2,6 +2,7 @@
 // loop, the transcendental families, the colour rules and the inverse iteration.
 
 #include "complex/Julia.h"
+#include "support/Instrucoes.h"
 #include "interp/clsEquation.h"
 
 #include <gtest/gtest.h>
@@ -12,14 +13,6 @@
 
 namespace lumerina {
 namespace {
-
-std::vector<InstrucoesVectoriais> Instrucoes()
-{
-    std::vector<InstrucoesVectoriais> todas{InstrucoesVectoriais::Sse2};
-    if (MelhoresInstrucoes() == InstrucoesVectoriais::Avx2)
-        todas.push_back(InstrucoesVectoriais::Avx2);
-    return todas;
-}
 
 // The count of the single start point x0 + i·y0: column 0, row 0 of a view starting there.
 int Contagem(double x0, double y0, double C, double D, int N,

@@ -3,6 +3,7 @@
 // and the vector column against the plain loop, pixel for pixel.
 
 #include "complex/MetodoNewton.h"
+#include "support/Instrucoes.h"
 
 #include <gtest/gtest.h>
 
@@ -12,14 +13,6 @@
 
 namespace lumerina {
 namespace {
-
-std::vector<InstrucoesVectoriais> Instrucoes()
-{
-    std::vector<InstrucoesVectoriais> todas{InstrucoesVectoriais::Sse2};
-    if (MelhoresInstrucoes() == InstrucoesVectoriais::Avx2)
-        todas.push_back(InstrucoesVectoriais::Avx2);
-    return todas;
-}
 
 TEST(MetodoNewton, DivisaoComplexaDesviaCadaParteNulaDoDivisor)
 {

@@ -2,6 +2,7 @@
 // the vector path against the plain loop, pixel for pixel.
 
 #include "complex/TempoFuga.h"
+#include "support/Instrucoes.h"
 
 #include <gtest/gtest.h>
 
@@ -12,14 +13,6 @@ namespace {
 
 using enum VarianteMandel;
 constexpr VarianteMandel kVariantes[] = {Normal, Cubo, Quarta, Conj, ConjCubo, ConjQuarta};
-
-std::vector<InstrucoesVectoriais> Instrucoes()
-{
-    std::vector<InstrucoesVectoriais> todas{InstrucoesVectoriais::Sse2};
-    if (MelhoresInstrucoes() == InstrucoesVectoriais::Avx2)
-        todas.push_back(InstrucoesVectoriais::Avx2);
-    return todas;
-}
 
 std::vector<int> Coluna(VarianteMandel v, const VistaMundo& vista, int i, int N,
                         InstrucoesVectoriais instrucoes = MelhoresInstrucoes())
